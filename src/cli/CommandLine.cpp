@@ -1,0 +1,84 @@
+#include "cli/Command.h"
+
+#include "platform/common/KTUnitConverter.h"
+#include "platform/defaults/KTSettingsTable.h"
+#include "platform/defaults/KTUserDefaults.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+struct GlobalOptions {
+    std::string settings;
+    std::vector<std::string> assignments;
+    std::string progress = "auto";
+    std::string exifTool;
+};
+
+void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
+    app.set_version_flag("--version", "waymark-cli " WAYMARK_VERSION);
+    app.add_flag("--json", session.json, "One JSON document on standard output instead of text");
+    app.add_option("--settings", options.settings, "Use this settings file instead of the user's")->type_name("FILE");
+    app.add_option("--set", options.assignments, "A setting for this run only; repeatable")
+        ->type_name("KEY=VALUE")
+        ->expected(1)
+        ->take_all()
+        ->allow_extra_args(false);
+    app.add_option("--library", session.libraryFile, "The track library file (\":memory:\" for none kept)")
+        ->type_name("FILE");
+    app.add_option("--progress", options.progress, "Show progress on standard error")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
+    app.add_option("--exiftool", options.exifTool, "Use this Image::ExifTool library folder")->type_name("FOLDER");
+    app.require_subcommand(1);
+    app.fallthrough();
+}
+
+void apply(const GlobalOptions& options, CommandSession& session) {
+    if (!options.settings.empty() && !KTUserDefaults::useDomain(options.settings))
+        throw UsageError{"the settings file " + options.settings + " cannot be read"};
+    for (const std::string& text : options.assignments) {
+        auto assignment = KTSettingsTable::parseAssignment(text);
+        if (!assignment.error.empty())
+            throw UsageError{assignment.error};
+        KTUserDefaults::standardUserDefaults().setValueForThisRun(assignment.key, assignment.value);
+    }
+    if (!options.exifTool.empty()) {
+        if (!std::filesystem::exists(std::filesystem::path(options.exifTool) / "Image" / "ExifTool.pm"))
+            throw UsageError{"there is no Image/ExifTool.pm in " + options.exifTool};
+        KTExifTool::setLibraryFolder(std::filesystem::absolute(options.exifTool));
+    }
+    const std::string units = KTUserDefaults::standardUserDefaults().textForKey("distanceUnits");
+    KTUnitConverter::sharedUnitConverter().setDistanceUnits(
+        KTUnitConverter::unitsFromName(units).value_or(KTUnitConverter::Units::Metric));
+    session.progress = options.progress == "always"  ? CommandSession::Progress::Always
+                       : options.progress == "never" ? CommandSession::Progress::Never
+                                                     : CommandSession::Progress::Auto;
+}
+
+} // namespace
+
+int runCommandLine(int argc, char** argv) {
+    CommandSession session;
+    GlobalOptions options;
+    CommandList commands;
+    CLI::App app("Waymark geotags photos from GPS tracks and edits their metadata.", "waymark-cli");
+    addGlobalOptions(app, options, session);
+    addReadCommand(app, commands);
+    addFieldsCommand(app, commands);
+    addSetCommand(app, commands);
+    addGeotagCommand(app, commands);
+    addTracksCommands(app, commands);
+    addDemoCommand(app, commands);
+    try {
+        app.parse(argc, argv);
+        apply(options, session);
+        for (const ParsedCommand& entry : commands)
+            if (entry.parser->parsed())
+                return entry.command->run(session);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? kExitDone : kExitUsage;
+    } catch (const UsageError& error) {
+        session.message(error.message);
+    }
+    return kExitUsage;
+}

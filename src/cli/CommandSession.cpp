@@ -1,0 +1,91 @@
+#include "cli/CommandSession.h"
+
+#include "collection/KTPhotoFileList.h"
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTLog.h"
+#include "platform/common/KTText.h"
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace {
+
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets it");
+
+void noteSignal(int) {
+    interrupted = true;
+}
+
+} // namespace
+
+std::vector<std::filesystem::path> CommandSession::photoFiles(const std::vector<std::string>& paths) {
+    KTPhotoFileList list = KTPhotoFileList::fromPaths({paths.begin(), paths.end()});
+    for (const std::string& problem : list.problems)
+        failure(problem);
+    return std::move(list.files);
+}
+
+std::filesystem::path CommandSession::defaultLibraryFile() {
+    const char* data = std::getenv("XDG_DATA_HOME");
+    const char* home = std::getenv("HOME");
+    std::filesystem::path folder = data != nullptr && *data == '/' ? std::filesystem::path(data)
+                                   : std::filesystem::path(home != nullptr ? home : ".") / ".local/share";
+    return folder / "waymark" / "tracks.sqlite";
+}
+
+KTTrackManager* CommandSession::tracks() {
+    if (trackManager)
+        return trackManager.get();
+    KTTrackStore::Opened opened =
+        KTTrackStore::open(libraryFile.empty() ? defaultLibraryFile() : std::filesystem::path(libraryFile));
+    if (opened.store)
+        trackManager = std::make_unique<KTTrackManager>(std::move(opened.store));
+    else
+        failure(opened.error);
+    return trackManager.get();
+}
+
+void CommandSession::message(const std::string& text) const {
+    KTLog("waymark-cli: " + text);
+}
+
+void CommandSession::failure(const std::string& text) {
+    message(text);
+    failed = true;
+}
+
+bool CommandSession::showsProgress() const {
+    return progress == Progress::Always || (progress == Progress::Auto && isatty(STDERR_FILENO) == 1);
+}
+
+void CommandSession::showProgress(std::string_view format, std::size_t done, std::size_t total) {
+    if (!showsProgress())
+        return;
+    std::string line = KTStringWithFormat(KTLocalizedString(format), {std::to_string(done), std::to_string(total)});
+    std::fprintf(stderr, "\r%s\033[K", line.c_str());
+    progressShown = true;
+}
+
+void CommandSession::endProgress() {
+    if (std::exchange(progressShown, false))
+        std::fputs("\r\033[K", stderr);
+}
+
+void CommandSession::noteInterruptions() {
+    struct sigaction action = {};
+    action.sa_handler = noteSignal;
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+}
+
+bool CommandSession::isInterrupted() {
+    return interrupted;
+}
+
+int CommandSession::exitStatus() const {
+    return isInterrupted() ? kExitInterrupted : failed ? kExitSomethingFailed : kExitDone;
+}

@@ -1,0 +1,139 @@
+#include "cli/Command.h"
+#include "cli/JSONOutput.h"
+
+#include "metadata/KTMetadataFieldManager.h"
+#include "platform/common/KTCalendar.h"
+#include "platform/common/KTText.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+/// What a user typed for a field, as a value of the field's type; empty text clears. Throws UsageError when it is
+/// none.
+KTValue valueFromText(const KTMetadataField& field, std::string_view text) {
+    if (KTTrimmed(text).empty())
+        return {};
+    auto complain = [&](const char* expected) -> UsageError {
+        return {"\"" + std::string(text) + "\" is not a value of " + field.key() + ": " + expected};
+    };
+    switch (field.propertyType()) {
+    case KTValueType::Text:
+        return text;
+    case KTValueType::Decimal:
+        if (auto number = KTDecimal::fromText(KTTrimmed(text)))
+            return *number;
+        throw complain("a decimal number is expected");
+    case KTValueType::List: {
+        std::vector<std::string> elements;
+        for (const std::string& element : KTSplit(text, '|'))
+            if (auto trimmed = KTTrimmed(element); !trimmed.empty())
+                elements.emplace_back(trimmed);
+        return KTValue::listOfTexts(elements);
+    }
+    case KTValueType::Date:
+    case KTValueType::DateComponents: {
+        auto components = KTDateComponents::dateComponentsWithString(text);
+        if (!components)
+            throw complain("YYYY-MM-DD HH:MM:SS is expected");
+        components->timeZone = KTTimeZone::timeZoneWithString(text).value_or(
+            KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone());
+        if (field.propertyType() == KTValueType::DateComponents)
+            return *components;
+        return KTInstantOfComponents(*components);
+    }
+    default:
+        throw complain("it cannot be set");
+    }
+}
+
+class SetCommand : public Command {
+public:
+    std::vector<std::string> arguments;
+    std::string backupFolder;
+
+    int run(CommandSession& session) override {
+        std::vector<std::pair<std::string, KTValue>> edits;
+        std::vector<std::string> paths;
+        split(edits, paths);
+        CommandSession::noteInterruptions();
+        const auto files = session.photoFiles(paths);
+        std::optional<JSONOutput> json;
+        if (session.json) {
+            json.emplace();
+            json->beginObject();
+            json->key("photos");
+            json->beginArray();
+        }
+        for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
+            session.showProgress("Saving photo %u of %u", i + 1, files.size());
+            edit(session, json, files[i], edits);
+        }
+        session.endProgress();
+        if (json) {
+            json->endArray();
+            json->endObject();
+        }
+        return session.exitStatus();
+    }
+
+private:
+    /// The leading KEY=VALUE arguments are edits, the rest paths.
+    void split(std::vector<std::pair<std::string, KTValue>>& edits, std::vector<std::string>& paths) const {
+        for (const std::string& argument : arguments) {
+            const auto equals = argument.find('=');
+            const bool isEdit = paths.empty() && equals != std::string::npos &&
+                                std::ranges::all_of(argument.substr(0, equals), [](unsigned char c) { return std::isalnum(c); });
+            if (!isEdit) {
+                paths.push_back(argument);
+                continue;
+            }
+            const std::string key = argument.substr(0, equals);
+            auto field = KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key);
+            if (!field)
+                throw UsageError{"there is no field \"" + key + "\" (waymark-cli fields lists them)"};
+            if (field->readonly() || key == "creationDate")
+                throw UsageError{"the field \"" + key + "\" cannot be edited"};
+            edits.emplace_back(key, valueFromText(*field, std::string_view(argument).substr(equals + 1)));
+        }
+        if (edits.empty() || paths.empty())
+            throw UsageError{"set takes KEY=VALUE... PATH..."};
+    }
+
+    void edit(CommandSession& session, std::optional<JSONOutput>& json, const std::filesystem::path& file,
+              const std::vector<std::pair<std::string, KTValue>>& edits) const {
+        auto photo = KTPhoto::initWithFile(file);
+        if (photo->isValid()) {
+            for (const auto& [key, value] : edits)
+                photo->setValueForKey(key, value);
+            photo->saveWithBackupToFolder(backupFolder.empty() ? std::nullopt
+                                                               : std::optional<std::filesystem::path>(backupFolder));
+        }
+        const bool saved = photo->isValid() && !photo->hasUnsavedChanges();
+        if (!saved)
+            session.setFailed();
+        for (const KTPhotoOperation& operation : photo->photoOperations())
+            if (operation.resultType() != KTPhotoOperation::Success)
+                session.message(file.string() + ": " + operation.resultDescription());
+        if (!json) {
+            std::printf("%s: %s\n", file.c_str(), saved ? "saved" : "not saved");
+            return;
+        }
+        json->beginObject();
+        json->member("path", file.string());
+        json->member("saved", saved);
+        json->member("operations", photo->photoOperations());
+        json->endObject();
+    }
+};
+
+} // namespace
+
+void addSetCommand(CLI::App& app, CommandList& commands) {
+    auto command = std::make_unique<SetCommand>();
+    CLI::App* parser = app.add_subcommand("set", "Set fields by key and save");
+    parser->add_option("--backup", command->backupFolder, "Keep backups there")->check(CLI::ExistingDirectory);
+    parser->add_option("KEY=VALUE... PATH...", command->arguments, "Edits, then photos or folders; an empty value clears")
+        ->required();
+    commands.push_back({parser, std::move(command)});
+}

@@ -1,0 +1,188 @@
+#include "cli/Command.h"
+#include "cli/JSONOutput.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+namespace {
+
+class TracksImportCommand : public Command {
+public:
+    std::vector<std::string> files;
+
+    int run(CommandSession& session) override {
+        KTTrackManager* library = session.tracks();
+        if (library == nullptr)
+            return session.exitStatus();
+        std::optional<JSONOutput> json;
+        if (session.json) {
+            json.emplace();
+            json->beginObject();
+            json->key("imports");
+            json->beginArray();
+        }
+        for (const std::string& file : files) {
+            const KTTrackImportResult result = library->importFile(file);
+            if (!result.succeeded())
+                session.failure(result.error);
+            if (json)
+                printJSON(*json, file, result);
+            else if (result.succeeded())
+                printText(file, result);
+        }
+        if (json) {
+            json->endArray();
+            json->endObject();
+        }
+        return session.exitStatus();
+    }
+
+private:
+    static void printJSON(JSONOutput& json, const std::string& file, const KTTrackImportResult& result) {
+        json.beginObject();
+        json.member("path", file);
+        json.member("imported", result.succeeded());
+        if (result.succeeded()) {
+            KTValue::List ids(result.trackIDs.begin(), result.trackIDs.end());
+            json.member("alreadyImported", result.alreadyImported);
+            json.member("ids", KTValue(std::move(ids)));
+            json.member("points", result.pointCount);
+            json.member("datedPoints", result.datedPointCount);
+            json.member("waypoints", result.waypointCount);
+        } else {
+            json.member("error", result.error);
+        }
+        json.endObject();
+    }
+
+    static void printText(const std::string& file, const KTTrackImportResult& result) {
+        std::printf("%s: %s%lld points (%lld with a date), %lld waypoints\n", file.c_str(),
+                    result.alreadyImported ? "already imported, " : "", static_cast<long long>(result.pointCount),
+                    static_cast<long long>(result.datedPointCount), static_cast<long long>(result.waypointCount));
+    }
+};
+
+class TracksListCommand : public Command {
+public:
+    int run(CommandSession& session) override {
+        KTTrackManager* library = session.tracks();
+        if (library == nullptr)
+            return session.exitStatus();
+        const std::vector<KTTrack> tracks = library->store().tracks();
+        if (session.json)
+            printJSON(tracks);
+        else
+            for (const KTTrack& track : tracks)
+                printText(track);
+        return session.exitStatus();
+    }
+
+private:
+    static const char* kindName(KTTrack::Kind kind) {
+        return kind == KTTrack::Kind::Track ? "track" : kind == KTTrack::Kind::Route ? "route" : "waypoints";
+    }
+
+    static void printJSON(const std::vector<KTTrack>& tracks) {
+        JSONOutput json;
+        json.beginObject();
+        json.key("tracks");
+        json.beginArray();
+        for (const KTTrack& track : tracks) {
+            json.beginObject();
+            json.member("id", track.id);
+            json.member("kind", kindName(track.kind));
+            json.member("name", track.name);
+            json.member("file", track.sourceFile);
+            json.member("points", track.pointCount);
+            json.member("datedPoints", track.datedPointCount);
+            json.member("waypoints", track.waypointCount);
+            json.member("firstDate", track.firstDate);
+            json.member("lastDate", track.lastDate);
+            json.endObject();
+        }
+        json.endArray();
+        json.endObject();
+    }
+
+    static void printText(const KTTrack& track) {
+        const std::string span = track.firstDate ? KTISO8601Text(*track.firstDate) + " to " + KTISO8601Text(*track.lastDate)
+                                                 : std::string("no dates");
+        const auto count = track.kind == KTTrack::Kind::Waypoints ? track.waypointCount : track.pointCount;
+        std::printf("%lld\t%s\t%s\t%lld %s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
+                    track.name.c_str(), static_cast<long long>(count),
+                    track.kind == KTTrack::Kind::Waypoints ? "waypoints" : "points", span.c_str(),
+                    track.sourceFile.c_str());
+    }
+};
+
+class TracksRemoveCommand : public Command {
+public:
+    std::vector<std::int64_t> ids;
+
+    int run(CommandSession& session) override {
+        KTTrackManager* library = session.tracks();
+        if (library == nullptr)
+            return session.exitStatus();
+        const KTTrackStore::Deletion deletion = library->deleteTracks(ids);
+        if (!deletion.error.empty())
+            session.failure(deletion.error);
+        for (std::int64_t id : deletion.unknown)
+            session.failure("there is no track " + std::to_string(id));
+        if (session.json) {
+            JSONOutput json;
+            json.beginObject();
+            json.key("removed");
+            json.value(KTValue(KTValue::List(deletion.deleted.begin(), deletion.deleted.end())));
+            json.endObject();
+        } else {
+            std::printf("%zu removed\n", deletion.deleted.size());
+        }
+        return session.exitStatus();
+    }
+};
+
+class TracksExportCommand : public Command {
+public:
+    std::vector<std::int64_t> ids;
+    std::string format = "gpx";
+
+    int run(CommandSession& session) override {
+        KTTrackManager* library = session.tracks();
+        if (library == nullptr)
+            return session.exitStatus();
+        if (std::string error = library->store().exportGPX(ids, std::cout); !error.empty())
+            session.failure(error);
+        std::cout.flush();
+        if (!std::cout)
+            session.failure("standard output could not be written");
+        return session.exitStatus();
+    }
+};
+
+template <typename Commands>
+Commands& add(CLI::App* parser, CommandList& commands) {
+    auto command = std::make_unique<Commands>();
+    Commands& reference = *command;
+    commands.push_back({parser, std::move(command)});
+    return reference;
+}
+
+} // namespace
+
+void addTracksCommands(CLI::App& app, CommandList& commands) {
+    CLI::App* tracks = app.add_subcommand("tracks", "The track library");
+    tracks->require_subcommand(1);
+
+    CLI::App* import = tracks->add_subcommand("import", "Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)");
+    import->add_option("FILE", add<TracksImportCommand>(import, commands).files, "Track files")->required();
+
+    add<TracksListCommand>(tracks->add_subcommand("list", "List what the library holds"), commands);
+
+    CLI::App* remove = tracks->add_subcommand("remove", "Delete from the library by the ids that list shows");
+    remove->add_option("ID", add<TracksRemoveCommand>(remove, commands).ids, "Ids")->required();
+
+    CLI::App* exported = tracks->add_subcommand("export", "Write tracks to standard output");
+    auto& command = add<TracksExportCommand>(exported, commands);
+    exported->add_option("--format", command.format, "gpx")->check(CLI::IsMember({"gpx"}));
+    exported->add_option("ID", command.ids, "Ids")->required();
+}

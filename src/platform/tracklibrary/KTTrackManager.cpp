@@ -1,0 +1,82 @@
+#include "platform/tracklibrary/KTTrackManager.h"
+
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
+#include "platform/tracklibrary/TrackFileReading.h"
+
+namespace {
+
+/// Why @p file cannot be a track file; empty when it may be one.
+std::string unreadableReason(const std::filesystem::path& file) {
+    std::error_code error;
+    auto status = std::filesystem::status(file, error);
+    if (status.type() == std::filesystem::file_type::not_found)
+        return KTLocalizedString("there is no such file");
+    if (error)
+        return error.message();
+    if (status.type() == std::filesystem::file_type::directory)
+        return KTLocalizedString("this is a folder");
+    return std::filesystem::is_regular_file(status) ? "" : KTLocalizedString("this is not a file");
+}
+
+} // namespace
+
+KTTrackImportResult KTTrackManager::importFile(const std::filesystem::path& file) {
+    std::string reason = unreadableReason(file);
+    if (!reason.empty()) {
+        KTTrackImportResult failed;
+        failed.error = KTValidUTF8(file.string()) + ": " + reason;
+        return failed;
+    }
+    // A file of a size not seen before is new, and is hashed while it is read.
+    std::error_code ignored;
+    auto path = std::filesystem::absolute(file, ignored);
+    auto size = static_cast<std::int64_t>(std::filesystem::file_size(path, ignored));
+    if (trackStore->hasImportOfSize(size)) {
+        if (auto earlier = trackStore->importedContent(trackFileHash(path)))
+            return *earlier;
+    }
+    auto result =
+        trackStore->importTracks(path, [&](TrackFileSink& sink) { return readTrackFile(path, sink); });
+    if (result.addedSomething())
+        post({KTTrackManagerDidAddNewImportSource, result.trackIDs});
+    return result;
+}
+
+KTTrackStore::Deletion KTTrackManager::deleteTracks(const std::vector<std::int64_t>& ids) {
+    auto result = trackStore->deleteTracks(ids);
+    if (!result.deleted.empty())
+        post({KTTrackManagerDidDeleteObjects, result.deleted});
+    return result;
+}
+
+int KTTrackManager::addHandler(Handler handler) {
+    std::lock_guard lock(handlersMutex);
+    handlers.emplace(++lastNumber, std::move(handler));
+    return lastNumber;
+}
+
+void KTTrackManager::removeHandler(int number) {
+    std::lock_guard lock(handlersMutex);
+    handlers.erase(number);
+}
+
+void KTTrackManager::post(const KTTrackNotification& notification) {
+    std::vector<int> numbers;
+    {
+        std::lock_guard lock(handlersMutex);
+        for (const auto& [number, handler] : handlers)
+            numbers.push_back(number);
+    }
+    for (int number : numbers) {
+        Handler handler;
+        {
+            std::lock_guard lock(handlersMutex);
+            auto found = handlers.find(number);
+            if (found != handlers.end())
+                handler = found->second;
+        }
+        if (handler)
+            handler(notification);
+    }
+}

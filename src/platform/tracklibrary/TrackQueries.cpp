@@ -1,0 +1,115 @@
+#include "platform/tracklibrary/TrackQueries.h"
+
+#include "platform/tracklibrary/GPXWriter.h"
+#include "platform/tracklibrary/TrackDatabase.h"
+
+namespace {
+
+struct PointRange {
+    std::int64_t first, last;
+};
+
+std::vector<PointRange> segmentRanges(TrackDatabase& database, std::int64_t track) {
+    auto find = database.statement("SELECT first_point, last_point FROM segment WHERE track = ? ORDER BY id");
+    find->bind(1, track);
+    std::vector<PointRange> ranges;
+    while (find->executeStep())
+        ranges.push_back({find->getColumn(0).getInt64(), find->getColumn(1).getInt64()});
+    return ranges;
+}
+
+template<class Visit>
+void forEachPoint(TrackDatabase& database, PointRange range, const Visit& visit) {
+    auto find = database.statement(
+        "SELECT date, latitude, longitude, elevation FROM point WHERE id BETWEEN ? AND ? ORDER BY id");
+    find->bind(1, range.first);
+    find->bind(2, range.last);
+    while (find->executeStep())
+        visit(geoPointFromRow(*find, 0));
+}
+
+void writeTrack(TrackDatabase& database, const KTTrack& track, GPXWriter& writer) {
+    writer.beginTrack(track);
+    for (PointRange range : segmentRanges(database, track.id)) {
+        writer.beginSegment();
+        forEachPoint(database, range, [&](const KTGeoPoint& point) { writer.point(point); });
+        writer.endSegment();
+    }
+    writer.endTrack();
+}
+
+} // namespace
+
+std::vector<KTTrack> listTracks(TrackDatabase& database) {
+    auto find = database.statement(
+        "SELECT track.id, kind, name, source, path, points, dated_points, waypoints, first_date, last_date "
+        "FROM track JOIN source ON source.id = track.source ORDER BY track.id");
+    std::vector<KTTrack> tracks;
+    while (find->executeStep()) {
+        KTTrack track;
+        track.id = find->getColumn(0).getInt64();
+        track.kind = static_cast<KTTrack::Kind>(find->getColumn(1).getInt());
+        track.name = find->getColumn(2).getString();
+        track.source = find->getColumn(3).getInt64();
+        track.sourceFile = find->getColumn(4).getString();
+        track.pointCount = find->getColumn(5).getInt64();
+        track.datedPointCount = find->getColumn(6).getInt64();
+        track.waypointCount = find->getColumn(7).getInt64();
+        track.firstDate = instantFromColumn(find->getColumn(8));
+        track.lastDate = instantFromColumn(find->getColumn(9));
+        tracks.push_back(std::move(track));
+    }
+    return tracks;
+}
+
+std::vector<KTWaypoint> waypointsOfTrack(TrackDatabase& database, std::int64_t track) {
+    auto find =
+        database.statement("SELECT id, name, comment, date, latitude, longitude, elevation FROM waypoint "
+                           "WHERE track = ? ORDER BY id");
+    find->bind(1, track);
+    std::vector<KTWaypoint> waypoints;
+    while (find->executeStep())
+        waypoints.push_back({find->getColumn(0).getInt64(), track, find->getColumn(1).getString(),
+                             find->getColumn(2).getString(), geoPointFromRow(*find, 3)});
+    return waypoints;
+}
+
+std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, std::int64_t track) {
+    std::vector<std::vector<KTGeoPoint>> segments;
+    for (PointRange range : segmentRanges(database, track)) {
+        auto& points = segments.emplace_back();
+        forEachPoint(database, range, [&](KTGeoPoint point) { points.push_back(std::move(point)); });
+    }
+    return segments;
+}
+
+std::optional<std::int64_t> writeGPX(TrackDatabase& database, const std::vector<std::int64_t>& ids,
+                                     std::ostream& out) {
+    SQLite::Transaction sameState(database.connection);
+    std::map<std::int64_t, KTTrack> byID;
+    for (KTTrack& track : listTracks(database))
+        byID.emplace(track.id, std::move(track));
+    std::vector<const KTTrack*> chosen;
+    for (std::int64_t id : ids) {
+        auto found = byID.find(id);
+        if (found == byID.end())
+            return id;
+        if (std::ranges::find(chosen, &found->second) == chosen.end())
+            chosen.push_back(&found->second);
+    }
+
+    GPXWriter writer(out);
+    writer.beginFile();
+    for (auto kind : {KTTrack::Kind::Waypoints, KTTrack::Kind::Route, KTTrack::Kind::Track}) {
+        for (const KTTrack* track : chosen) {
+            if (track->kind != kind)
+                continue;
+            for (const KTWaypoint& waypoint : waypointsOfTrack(database, track->id))
+                writer.waypoint(waypoint);
+            if (kind != KTTrack::Kind::Waypoints)
+                writeTrack(database, *track, writer);
+        }
+    }
+    writer.endFile();
+    return std::nullopt;
+}

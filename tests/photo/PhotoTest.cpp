@@ -1,0 +1,221 @@
+#include "photo/KTPhoto.h"
+
+#include "photo/KTWrittenValues.h"
+#include "platform/common/KTCalendar.h"
+#include "platform/defaults/KTUserDefaults.h"
+#include "tests/support/TestPhotos.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Photo : public testing::Test {
+protected:
+    void SetUp() override { KTUserDefaults::useThrowAwayDomain(); }
+
+    static void setStyle(int style) {
+        KTUserDefaults::standardUserDefaults().setValue("defaultXMPSidecarStyle", style);
+    }
+    static std::shared_ptr<KTPhoto> open(const std::filesystem::path& file) { return KTPhoto::initWithFile(file); }
+
+    TemporaryFolder folder;
+};
+
+KTGeoPoint basel() {
+    return {KTInstantFromMilliseconds(1401616799250), *KTDecimal::fromText("47.559601"),
+            *KTDecimal::fromText("-7.588576"), *KTDecimal::fromText("-12.5")};
+}
+
+bool leftNothingBehind(const TemporaryFolder& folder, std::size_t files) {
+    return std::size_t(std::distance(std::filesystem::directory_iterator(folder.path()), {})) == files;
+}
+
+} // namespace
+
+TEST_F(Photo, ReadsPropertiesAndFlags) {
+    auto photo = open(makePhoto(folder, "a.jpg",
+                                {{"EXIF:DateTimeOriginal", "2014:06:01 12:00:00"},
+                                 {"XMP:Title", "t"},
+                                 {"IPTC:Keywords", KTValue::listOfTexts({"a", "b"})}}));
+    EXPECT_TRUE(photo->isValid());
+    EXPECT_EQ(photo->valueForKey("title"), KTValue("t"));
+    EXPECT_EQ(photo->valueForKey("filename"), KTValue("a.jpg"));
+    EXPECT_EQ(photo->valueForKey("keywords"), KTValue::listOfTexts({"a", "b"}));
+    EXPECT_TRUE(photo->imageSource().properties.hasIPTCChecksum);
+    EXPECT_TRUE(photo->imageSource().properties.iptcChecksumDoesMatch);
+    EXPECT_TRUE(photo->dateTimeOriginal());
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+
+    auto garbage = open(folder.file("x.jpg", std::string_view("\1\2\3\4\0\6", 6)));
+    EXPECT_FALSE(garbage->isValid());
+    EXPECT_EQ(garbage->photoOperations().back().resultType(), KTPhotoOperation::Failure);
+    garbage->setValueForKey("title", "x");
+    garbage->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(contentOf(folder / "x.jpg").size(), 6U);
+}
+
+TEST_F(Photo, AnEditBackToTheSavedValueLeavesNothingUnsaved) {
+    auto photo = open(makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}, {"EXIF:GPSLatitude", 10}, {"EXIF:GPSLatitudeRef", "S"}}));
+    photo->setValueForKey("title", "new");
+    photo->setValueForKey("latitude", *KTDecimal::fromText("33.8"));
+    photo->setValueForKey("caption", "c");
+    EXPECT_TRUE(photo->hasUnsavedChanges());
+    photo->setValueForKey("title", "old");
+    photo->setValueForKey("latitude", -10);
+    photo->setValueForKey("caption", {});
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    photo->setValueForKey("cameraMake", "read-only");
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+}
+
+TEST_F(Photo, GeotagsThroughOneSafeWrite) {
+    auto file = makePhoto(folder, "a.jpg", {{"EXIF:Make", "Canon"}, {"EXIF:GPSAltitude", 7}});
+    auto photo = open(file);
+    photo->setLocationCreatedFromPoint(basel());
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges()) << photo->photoOperations().back().resultDescription();
+    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Success)
+        << photo->photoOperations().back().resultDescription();
+
+    KTTagDictionary tags = tagsOf(file);
+    auto shown = [&](const char* key) { return tags.valueForKey(key).description(); };
+    EXPECT_EQ(shown("EXIF:GPSLatitudeRef") + shown("EXIF:GPSLongitudeRef"), "NW");
+    EXPECT_NEAR(tags.valueForKey("EXIF:GPSLatitude").number().value_or(KTDecimal::fromText(shown("EXIF:GPSLatitude")).value()).toDouble(), 47.559601, 1e-7);
+    EXPECT_EQ(shown("EXIF:GPSAltitude"), "12.5");
+    EXPECT_EQ(shown("EXIF:GPSAltitudeRef"), "1");
+    EXPECT_EQ(shown("EXIF:GPSDateStamp") + " " + shown("EXIF:GPSTimeStamp"), "2014:06:01 09:59:59");
+    EXPECT_EQ(shown("EXIF:GPSMapDatum"), "WGS-84");
+    EXPECT_EQ(shown("EXIF:GPSVersionID"), "2 2 0 0");
+    EXPECT_EQ(shown("EXIF:Make"), "Canon");
+    EXPECT_FALSE(tags.find("XMP:GPSLatitude")) << "a tag that XMP did not hold is not added to it";
+    EXPECT_TRUE(tags.find("XMP:MetadataDate"));
+    EXPECT_TRUE(leftNothingBehind(folder, 1));
+
+    KTGeoPoint interpolated{{}, *KTDecimal::fromText("1.5"), *KTDecimal::fromText("2.5"), {}};
+    photo->setLocationCreatedFromPoint(interpolated);
+    photo->saveWithBackupToFolder(std::nullopt);
+    tags = tagsOf(file);
+    EXPECT_FALSE(tags.find("EXIF:GPSTimeStamp")) << "a point without a date clears the GPS time";
+    EXPECT_EQ(shown("EXIF:GPSAltitude"), "12.5") << "and one without elevation leaves the altitude";
+}
+
+TEST_F(Photo, WritesWhereTheStyleSays) {
+    struct Case {
+        int style;
+        bool image, sidecar;
+    };
+    for (auto [style, image, sidecar] : {Case{0, true, false}, {1, true, false}, {2, false, true}, {3, true, true}, {4, true, false}}) {
+        setStyle(style);
+        const std::string stem = "style" + std::to_string(style);
+        auto file = makePhoto(folder, stem + ".jpg", {{"EXIF:Make", "Canon"}, {"XMP:Label", "Red"}});
+        const std::string before = contentOf(file);
+        auto photo = open(file);
+        photo->setValueForKey("title", "new");
+        photo->saveWithBackupToFolder(std::nullopt);
+        EXPECT_FALSE(photo->hasUnsavedChanges()) << style;
+        EXPECT_EQ(contentOf(file) != before, image) << style;
+        EXPECT_EQ(std::filesystem::exists(folder / (stem + ".xmp")), sidecar) << style;
+        if (sidecar) {
+            KTTagDictionary tags = tagsOf(folder / (stem + ".xmp"));
+            EXPECT_EQ(tags.valueForKey("XMP:Title"), KTValue("new")) << style;
+            EXPECT_EQ(tags.valueForKey("XMP:Label"), KTValue("Red")) << "a new sidecar holds everything";
+        }
+    }
+    EXPECT_FALSE(saveTargets("a.CRW", 0, false).imageFile);
+    EXPECT_TRUE(saveTargets("a.nef", 1, false).xmpSidecar);
+    EXPECT_TRUE(saveTargets("a.jpg", 4, true).xmpSidecar);
+    EXPECT_FALSE(saveTargets("a.jpg", 9, true).xmpSidecar || saveTargets("a.jpg", 9, true).imageFile);
+}
+
+TEST_F(Photo, AnExistingSidecarIsEditedNotRebuilt) {
+    setStyle(2);
+    auto file = makePhoto(folder, "a.jpg");
+    auto sidecar = folder.file("a.xmp", R"(<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?>
+<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>
+<rdf:Description rdf:about='' xmlns:raw='http://example.org/rawdeveloper/1.0/' raw:history='kept'/>
+<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/'><dc:title><rdf:Alt>
+<rdf:li xml:lang='x-default'>English</rdf:li><rdf:li xml:lang='de'>Deutsch</rdf:li></rdf:Alt></dc:title></rdf:Description>
+</rdf:RDF></x:xmpmeta>)");
+    auto photo = open(file);
+    EXPECT_EQ(photo->valueForKey("title"), KTValue("English"));
+    photo->setValueForKey("title", "New");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    const std::string content = contentOf(sidecar);
+    EXPECT_NE(content.find("kept"), std::string::npos) << "what other programs keep there survives";
+    EXPECT_NE(content.find("Deutsch"), std::string::npos) << "and so do other languages";
+    EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Title"), KTValue("New"));
+}
+
+TEST_F(Photo, AFailedSaveLeavesTheFileAndTheChanges) {
+    auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}});
+    const std::string before = contentOf(file);
+    auto photo = open(file);
+    photo->setValueForKey("title", "new");
+    photo->saveWithBackupToFolder(folder / "no such folder");
+    EXPECT_EQ(photo->photoOperations().back().operationDescription, "Copy original image to backup folder");
+    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Failure);
+    EXPECT_TRUE(photo->hasUnsavedChanges());
+    EXPECT_EQ(contentOf(file), before);
+    EXPECT_TRUE(photo->valueForKey("metadataDate").isAbsent()) << "the stamps are withdrawn";
+
+    std::filesystem::resize_file(file, 40); // damaged behind our back
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_TRUE(photo->hasUnsavedChanges());
+    EXPECT_EQ(contentOf(file), before.substr(0, 40));
+    EXPECT_TRUE(leftNothingBehind(folder, 1));
+}
+
+TEST_F(Photo, KeepsBackupsAndModificationDates) {
+    KTUserDefaults::standardUserDefaults().setValue("defaultShouldPreserveModificationDate", true);
+    auto file = makePhoto(folder, "a.jpg");
+    const std::string before = contentOf(file);
+    const auto modified = std::filesystem::last_write_time(file) - std::chrono::hours(48);
+    std::filesystem::last_write_time(file, modified);
+    std::filesystem::create_directory(folder / "backup");
+    for (int round = 0; round < 2; ++round) {
+        auto photo = open(file);
+        photo->setValueForKey("title", "round " + std::to_string(round));
+        photo->saveWithBackupToFolder(folder / "backup");
+        EXPECT_FALSE(photo->hasUnsavedChanges());
+    }
+    EXPECT_EQ(std::filesystem::last_write_time(file), modified);
+    EXPECT_EQ(contentOf(folder / "backup/a.jpg"), before);
+    EXPECT_TRUE(std::filesystem::exists(folder / "backup/a-1.jpg"));
+}
+
+TEST_F(Photo, AValueThatTheFormatCannotHoldStaysPendingWithAWarning) {
+    auto file = makePhoto(folder, "a.jpg", {{"IPTC:By-line", KTValue::listOfTexts({"old"})}});
+    auto photo = open(file);
+    photo->setValueForKey("creator", "Řž");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Warning);
+    EXPECT_NE(photo->photoOperations().back().resultDescription().find("IPTC:By-line"), std::string::npos);
+    EXPECT_EQ(tagsOf(file).valueForKey("XMP:Creator").description(), "Řž");
+}
+
+TEST_F(Photo, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) {
+    auto file = makePhoto(folder, "a.jpg", {{"IPTC:Headline", "iptc headline"}, {"XMP:Headline", "xmp headline"}, {"IPTC:ObjectName", "t"}});
+    KTExifTool::sharedExifTool().setValuesForKeysWithDictionary({{"Photoshop:IPTCDigest", "00000000000000000000000000000000"}}, file);
+    auto photo = open(file);
+    ASSERT_TRUE(photo->imageSource().properties.hasIPTCChecksum && !photo->imageSource().properties.iptcChecksumDoesMatch);
+    ASSERT_EQ(photo->valueForKey("headline"), KTValue("iptc headline"));
+    photo->setValueForKey("title", "new");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(open(file)->valueForKey("headline"), KTValue("iptc headline"));
+}
+
+TEST(WrittenValues, ComparesWithWhatTheFormatsGiveBack) {
+    KTTagDictionary written{{"EXIF:GPSLatitude", *KTDecimal::fromText("47.9648628230")},
+                            {"EXIF:ModifyDate", "2014:06:01 12:00:00+02:00"},
+                            {"XMP:Subject", KTValue::listOfTexts({"one"})},
+                            {"XMP:Title", KTValue::null()},
+                            {"XMP:Label", "Řž"}};
+    KTTagDictionary read{{"EXIF:GPSLatitude", "47.9648628229722"},
+                         {"EXIF:ModifyDate", "2014:06:01 12:00:00"},
+                         {"XMP:Subject", "one"},
+                         {"XMP:Label", "?ž"}};
+    KTTagDictionary missing = valuesNotWritten(written, read);
+    EXPECT_EQ(missing.size(), 1U);
+    EXPECT_TRUE(missing.find("XMP:Label"));
+}

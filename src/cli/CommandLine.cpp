@@ -18,7 +18,8 @@ struct GlobalOptions {
 void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
     app.set_version_flag("--version", "waymark-cli " WAYMARK_VERSION);
     app.add_flag("--json", session.json, "One JSON document on standard output instead of text");
-    app.add_option("--settings", options.settings, "Use this settings file instead of the user's")->type_name("FILE");
+    app.add_option("--settings", options.settings, "Use this settings file instead of the user's")
+        ->type_name("FILE");
     app.add_option("--set", options.assignments, "A setting for this run only; repeatable")
         ->type_name("KEY=VALUE")
         ->expected(1)
@@ -28,7 +29,8 @@ void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& ses
         ->type_name("FILE");
     app.add_option("--progress", options.progress, "Show progress on standard error")
         ->check(CLI::IsMember({"auto", "always", "never"}));
-    app.add_option("--exiftool", options.exifTool, "Use this Image::ExifTool library folder")->type_name("FOLDER");
+    app.add_option("--exiftool", options.exifTool, "Use this Image::ExifTool library folder")
+        ->type_name("FOLDER");
     app.require_subcommand(1);
     app.fallthrough();
 }

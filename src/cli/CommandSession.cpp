@@ -31,8 +31,9 @@ std::vector<std::filesystem::path> CommandSession::photoFiles(const std::vector<
 std::filesystem::path CommandSession::defaultLibraryFile() {
     const char* data = std::getenv("XDG_DATA_HOME");
     const char* home = std::getenv("HOME");
-    std::filesystem::path folder = data != nullptr && *data == '/' ? std::filesystem::path(data)
-                                   : std::filesystem::path(home != nullptr ? home : ".") / ".local/share";
+    std::filesystem::path folder = data != nullptr && *data == '/'
+                                       ? std::filesystem::path(data)
+                                       : std::filesystem::path(home != nullptr ? home : ".") / ".local/share";
     return folder / "waymark" / "tracks.sqlite";
 }
 
@@ -64,7 +65,8 @@ bool CommandSession::showsProgress() const {
 void CommandSession::showProgress(std::string_view format, std::size_t done, std::size_t total) {
     if (!showsProgress())
         return;
-    std::string line = KTStringWithFormat(KTLocalizedString(format), {std::to_string(done), std::to_string(total)});
+    std::string line =
+        KTStringWithFormat(KTLocalizedString(format), {std::to_string(done), std::to_string(total)});
     std::fprintf(stderr, "\r%s\033[K", line.c_str());
     progressShown = true;
 }

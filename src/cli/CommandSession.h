@@ -18,8 +18,8 @@ public:
     std::string libraryFile; ///< ":memory:", a path, or empty for the user's own
     enum class Progress { Auto, Always, Never } progress = Progress::Auto;
 
-    /// The photo files that @p paths stand for, in the order in which they are worked on. Paths that lead to none
-    /// are named on standard error and remembered as failures.
+    /// The photo files that @p paths stand for, in the order in which they are worked on. Paths that lead to
+    /// none are named on standard error and remembered as failures.
     std::vector<std::filesystem::path> photoFiles(const std::vector<std::string>& paths);
 
     /// The track library, opened on first use; null, with a message, when it cannot be.
@@ -33,12 +33,13 @@ public:
     bool hasFailed() const { return failed; }
     void setFailed() { failed = true; }
 
-    /// Shows "DESCRIPTION", filled with the count of photos done and their total, in place of the last progress line.
+    /// Shows "DESCRIPTION", filled with the count of photos done and their total, in place of the last
+    /// progress line.
     void showProgress(std::string_view format, std::size_t done, std::size_t total);
     void endProgress();
 
-    /// From now on Ctrl-C (and a request to terminate) is noted instead of ending the process, so that the photo
-    /// being written is finished.
+    /// From now on Ctrl-C (and a request to terminate) is noted instead of ending the process, so that the
+    /// photo being written is finished.
     static void noteInterruptions();
     static bool isInterrupted();
     /// The exit status that the session's course calls for.

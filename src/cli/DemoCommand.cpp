@@ -19,8 +19,9 @@ public:
             return session.exitStatus();
         }
         if (!session.json)
-            std::printf("Made a small trip in %s: 12 photos (camera clock at UTC%s) and the track of the walk.\n\n",
-                        place.c_str(), DemoTrip::kTimeZone);
+            std::printf(
+                "Made a small trip in %s: 12 photos (camera clock at UTC%s) and the track of the walk.\n\n",
+                place.c_str(), DemoTrip::kTimeZone);
         session.libraryFile = ":memory:";
         GeotagCommand geotag;
         geotag.paths = {trip.photos.string()};
@@ -42,14 +43,16 @@ private:
 
     static void sayWhatNext(const DemoTrip& trip) {
         const std::string photos = trip.photos.string(), track = trip.track.string();
-        std::printf("\nThe positions are in the photos now. Try next:\n"
-                    "  exiftool -n -gps:all %s/IMG_0101.jpg\n"
-                    "  waymark-cli read %s/IMG_0101.jpg\n"
-                    "  waymark-cli set \"caption=By the lake\" \"keywords=lake|walk\" %s\n"
-                    "  waymark-cli geotag --track %s --time-zone %s --time-weighted --overwrite --dry-run %s\n"
-                    "With your own photos:\n"
-                    "  waymark-cli geotag --track TRACK.gpx --time-zone +02:00 --backup FOLDER PHOTOS\n",
-                    photos.c_str(), photos.c_str(), photos.c_str(), track.c_str(), DemoTrip::kTimeZone, photos.c_str());
+        std::printf(
+            "\nThe positions are in the photos now. Try next:\n"
+            "  exiftool -n -gps:all %s/IMG_0101.jpg\n"
+            "  waymark-cli read %s/IMG_0101.jpg\n"
+            "  waymark-cli set \"caption=By the lake\" \"keywords=lake|walk\" %s\n"
+            "  waymark-cli geotag --track %s --time-zone %s --time-weighted --overwrite --dry-run %s\n"
+            "With your own photos:\n"
+            "  waymark-cli geotag --track TRACK.gpx --time-zone +02:00 --backup FOLDER PHOTOS\n",
+            photos.c_str(), photos.c_str(), photos.c_str(), track.c_str(), DemoTrip::kTimeZone,
+            photos.c_str());
     }
 };
 

@@ -12,13 +12,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr auto kStart = std::chrono::sys_days(std::chrono::year(2026) / 6 / 14) + std::chrono::hours(7); // UTC
+constexpr auto kStart =
+    std::chrono::sys_days(std::chrono::year(2026) / 6 / 14) + std::chrono::hours(7); // UTC
 constexpr int kSecondsBetweenPoints = 20;
 constexpr int kPoints = 540; // three hours
 constexpr int kGapBegin = 260, kGapEnd = 330;
 
 // Seconds after the start at which each photo was taken; none for the one without a date.
-constexpr std::optional<int> kPhotoTimes[] = {65,   430,  1000, 1777, 2500, 3333,
+constexpr std::optional<int> kPhotoTimes[] = {65,   430,  1000, 1777, 2500,         3333,
                                               4210, 5900, 7105, 8888, std::nullopt, 12600};
 
 /// The walker's position at a point of the track, in degrees and metres.
@@ -28,7 +29,8 @@ struct Position {
 
 Position positionAt(int point) {
     const double way = double(point) / kPoints;
-    return {47.0505 - 0.030 * way + 0.004 * std::sin(way * 9), 8.3102 + 0.075 * way + 0.003 * std::cos(way * 13),
+    return {47.0505 - 0.030 * way + 0.004 * std::sin(way * 9),
+            8.3102 + 0.075 * way + 0.003 * std::cos(way * 13),
             434 + 60 * std::sin(way * 5) * std::sin(way * 5)};
 }
 
@@ -45,7 +47,8 @@ bool writeTrack(const fs::path& file) {
             continue;
         const Position at = positionAt(point);
         char line[160];
-        std::snprintf(line, sizeof line, "<trkpt lat=\"%.6f\" lon=\"%.6f\"><ele>%.1f</ele><time>%s</time></trkpt>\n",
+        std::snprintf(line, sizeof line,
+                      "<trkpt lat=\"%.6f\" lon=\"%.6f\"><ele>%.1f</ele><time>%s</time></trkpt>\n",
                       at.latitude, at.longitude, at.elevation,
                       KTISO8601Text(kStart + std::chrono::seconds(point * kSecondsBetweenPoints)).c_str());
         gpx << line;
@@ -55,7 +58,8 @@ bool writeTrack(const fs::path& file) {
     return !gpx.fail();
 }
 
-std::optional<std::string> writePhoto(const fs::path& file, const fs::path& picture, std::optional<int> seconds) {
+std::optional<std::string> writePhoto(const fs::path& file, const fs::path& picture,
+                                      std::optional<int> seconds) {
     std::error_code error;
     if (!fs::copy_file(picture, file, error))
         return file.string() + ": " + error.message();
@@ -69,7 +73,8 @@ std::optional<std::string> writePhoto(const fs::path& file, const fs::path& pict
         tags.set("EXIF:CreateDate", reading);
     }
     KTPhotoOperation written = KTExifTool::sharedExifTool().setValuesForKeysWithDictionary(tags, file);
-    return written.operationDidSucceed ? std::nullopt : std::optional(file.string() + ": " + written.resultDescription());
+    return written.operationDidSucceed ? std::nullopt
+                                       : std::optional(file.string() + ": " + written.resultDescription());
 }
 
 } // namespace

@@ -66,7 +66,8 @@ private:
             for (const auto& field : group->fields())
                 std::printf("  %-28s %-20s %-16s %-10s %s\n", field->key().c_str(), field->name().c_str(),
                             std::string(typeName(field->propertyType())).c_str(),
-                            std::string(editingName(*field)).c_str(), KTJoin(field->exifToolKeys(), ", ").c_str());
+                            std::string(editingName(*field)).c_str(),
+                            KTJoin(field->exifToolKeys(), ", ").c_str());
         }
     }
 };

@@ -27,7 +27,8 @@ void GeotagCommand::applyOptions() {
         override("defaultAssumedTimeZoneOffset", std::int64_t(zone->secondsFromGMT(KTInstantNow())));
     }
     if (maximumTime)
-        override("timeRestriction", KTDecimal::fromDouble(KTGeotaggingCriteria::restrictionFromInput(*maximumTime)));
+        override("timeRestriction",
+                 KTDecimal::fromDouble(KTGeotaggingCriteria::restrictionFromInput(*maximumTime)));
     if (maximumTime || noTime)
         override("shouldUseTimeRestriction", !noTime);
     if (maximumDistance)
@@ -60,7 +61,8 @@ int GeotagCommand::run(CommandSession& session) {
     const auto files = session.photoFiles(paths);
     GeotagReport report(session, criteria, dryRun);
     for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
-        session.showProgress(dryRun ? "Loading image %lu of %lu" : "Geotagging photo %u of %u", i + 1, files.size());
+        session.showProgress(dryRun ? "Loading image %lu of %lu" : "Geotagging photo %u of %u", i + 1,
+                             files.size());
         GeotagOutcome outcome = judge(*KTPhoto::initWithFile(files[i]), criteria, search);
         session.endProgress();
         report.add(outcome);
@@ -110,8 +112,8 @@ GeotagOutcome GeotagCommand::judge(KTPhoto& photo, const KTGeotaggingCriteria& c
     }
     if (outcome.point && !dryRun) {
         photo.setLocationCreatedFromPoint(*outcome.point);
-        photo.saveWithBackupToFolder(backupFolder.empty() ? std::nullopt
-                                                          : std::optional<std::filesystem::path>(backupFolder));
+        photo.saveWithBackupToFolder(
+            backupFolder.empty() ? std::nullopt : std::optional<std::filesystem::path>(backupFolder));
         outcome.saved = !photo.hasUnsavedChanges();
     }
     outcome.operations = photo.photoOperations();
@@ -127,14 +129,16 @@ std::optional<KTGeoPoint> GeotagCommand::pointOf(const GeotagOutcome& outcome) {
     case KTPointChoice::Next:
         return outcome.neighbours.next;
     default:
-        return KTTimeWeightedPosition(*outcome.neighbours.preceding, *outcome.neighbours.next, *outcome.instant);
+        return KTTimeWeightedPosition(*outcome.neighbours.preceding, *outcome.neighbours.next,
+                                      *outcome.instant);
     }
 }
 
-/// The assumed zone is one fixed offset. Where a region was named whose clocks stood elsewhere at the time of some
-/// photos, the user must hear of it.
+/// The assumed zone is one fixed offset. Where a region was named whose clocks stood elsewhere at the time of
+/// some photos, the user must hear of it.
 void GeotagCommand::noteZone(KTInstant instant) {
-    const int assumed = KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone().secondsFromGMT(instant);
+    const int assumed =
+        KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone().secondsFromGMT(instant);
     if (zone && zone->secondsFromGMT(instant) != assumed) {
         ++photosAtAnotherOffset;
         otherOffset = zone->offsetText(instant);
@@ -144,22 +148,27 @@ void GeotagCommand::noteZone(KTInstant instant) {
 void GeotagCommand::warnAboutZoneChanges(const CommandSession& session) const {
     if (photosAtAnotherOffset == 0)
         return;
-    session.message(KTStringWithFormat("%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the "
-                                       "photos were taken; give the offset itself to match those",
-                                       {zone->name(), zone->offsetText(KTInstantNow()), otherOffset,
-                                        std::to_string(photosAtAnotherOffset)}));
+    session.message(
+        KTStringWithFormat("%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the "
+                           "photos were taken; give the offset itself to match those",
+                           {zone->name(), zone->offsetText(KTInstantNow()), otherOffset,
+                            std::to_string(photosAtAnotherOffset)}));
 }
 
 void addGeotagCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<GeotagCommand>();
     CLI::App* parser = app.add_subcommand("geotag", "Match photos against tracks and write their positions");
-    parser->add_option("--track", command->tracks, "A track file for this run, beside the library; repeatable")
+    parser
+        ->add_option("--track", command->tracks, "A track file for this run, beside the library; repeatable")
         ->type_name("FILE")
         ->expected(1)
         ->take_all()
         ->allow_extra_args(false);
-    parser->add_option("--time-zone", command->timeZone, "Zone of the cameras' clocks: +02:00, Z or Area/City");
-    parser->add_option("--max-time", command->maximumTime, "A neighbouring point must be nearer than this (300)")
+    parser->add_option("--time-zone", command->timeZone,
+                       "Zone of the cameras' clocks: +02:00, Z or Area/City");
+    parser
+        ->add_option("--max-time", command->maximumTime,
+                     "A neighbouring point must be nearer than this (300)")
         ->type_name("SECONDS");
     parser->add_flag("--no-time", command->noTime, "No time restriction");
     parser->add_option("--max-distance", command->maximumDistance, "The neighbours must lie no farther apart")
@@ -170,10 +179,12 @@ void addGeotagCommand(CLI::App& app, CommandList& commands) {
     parser->add_flag("--overwrite", command->overwrite, "Also photos that already carry a location");
     parser->add_flag("--no-place", command->noPlace, "No city, state, country");
     parser->add_flag("--no-altitude", command->noAltitude, "Leave the altitude alone");
-    parser->add_option("--sidecar-style", command->sidecarStyle,
-                       "0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists")
+    parser
+        ->add_option("--sidecar-style", command->sidecarStyle,
+                     "0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists")
         ->check(CLI::Range(0, 4));
-    parser->add_option("--backup", command->backupFolder, "Keep backups there")->check(CLI::ExistingDirectory);
+    parser->add_option("--backup", command->backupFolder, "Keep backups there")
+        ->check(CLI::ExistingDirectory);
     parser->add_flag("--preserve-date", command->preserveDate, "Keep the files' modification dates");
     parser->add_flag("--dry-run", command->dryRun, "Judge and print, write nothing");
     parser->add_option("PATH", command->paths, "Photos, sidecars or folders")->required();

@@ -20,7 +20,8 @@ private:
     void applyOptions();
     bool importTracks(CommandSession& session);
     /// The photo's fate; writes it unless this is a dry run.
-    GeotagOutcome judge(KTPhoto& photo, const KTGeotaggingCriteria& criteria, const KTTrackPointSearch& search);
+    GeotagOutcome judge(KTPhoto& photo, const KTGeotaggingCriteria& criteria,
+                        const KTTrackPointSearch& search);
     static std::optional<KTGeoPoint> pointOf(const GeotagOutcome& outcome);
     void noteZone(KTInstant instant);
     void warnAboutZoneChanges(const CommandSession& session) const;

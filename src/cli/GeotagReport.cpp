@@ -24,10 +24,13 @@ std::string_view GeotagOutcome::name() const {
 KTValue GeotagOutcome::pointName() const {
     if (!point)
         return {};
-    return *choice == KTPointChoice::Preceding ? "preceding" : *choice == KTPointChoice::Next ? "next" : "timeWeighted";
+    return *choice == KTPointChoice::Preceding ? "preceding"
+           : *choice == KTPointChoice::Next    ? "next"
+                                               : "timeWeighted";
 }
 
-GeotagReport::GeotagReport(CommandSession& commandSession, const KTGeotaggingCriteria& usedCriteria, bool isDryRun)
+GeotagReport::GeotagReport(CommandSession& commandSession, const KTGeotaggingCriteria& usedCriteria,
+                           bool isDryRun)
     : session(commandSession), criteria(usedCriteria), dryRun(isDryRun) {
     if (!session.json)
         return;
@@ -85,7 +88,8 @@ void GeotagReport::printText(const GeotagOutcome& outcome) const {
         auto text = [](const std::optional<KTDecimal>& number) { return number ? number->toText() : "?"; };
         line += " " + text(outcome.point->latitude) + ", " + text(outcome.point->longitude);
         if (outcome.point->elevation)
-            line += ", " + KTUnitConverter::sharedUnitConverter().heightDescriptionFromMeters(*outcome.point->elevation);
+            line += ", " + KTUnitConverter::sharedUnitConverter().heightDescriptionFromMeters(
+                               *outcome.point->elevation);
         line += " (" + outcome.pointName().description() + ")";
         line += dryRun ? " [dry run]" : outcome.saved ? "" : " NOT SAVED";
     }
@@ -134,9 +138,9 @@ void GeotagReport::printJSONSummary(const KTGeotaggingSummary& summary) {
 }
 
 void GeotagReport::printTextSummary(const KTGeotaggingSummary& summary) const {
-    for (const std::string* text : {&summary.successTitle, &summary.successDescription, &summary.failureTitle,
-                                    &summary.failureDescription, &summary.failureTip,
-                                    &summary.alreadyGeotaggedDescription})
+    for (const std::string* text :
+         {&summary.successTitle, &summary.successDescription, &summary.failureTitle,
+          &summary.failureDescription, &summary.failureTip, &summary.alreadyGeotaggedDescription})
         if (!text->empty())
             std::printf("%s\n", text->c_str());
     if (unreadable != 0)

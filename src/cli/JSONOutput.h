@@ -7,8 +7,9 @@
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/writer.h>
 
-/// Writes one JSON document to standard output as it comes about. Numbers carry the decimal's exact text; instants are
-/// ISO 8601 in UTC; absent values are left out with their key; bytes that are not UTF-8 become U+FFFD.
+/// Writes one JSON document to standard output as it comes about. Numbers carry the decimal's exact text;
+/// instants are ISO 8601 in UTC; absent values are left out with their key; bytes that are not UTF-8 become
+/// U+FFFD.
 class JSONOutput {
 public:
     JSONOutput() : stream(stdout, buffer.data(), buffer.size()), writer(stream) {}
@@ -35,5 +36,6 @@ private:
     rapidjson::Writer<rapidjson::FileWriteStream> writer;
 };
 
-/// The reading of a capture date as ISO 8601 without zone, "2014-06-01T12:00:00"; as far as its parts are set.
+/// The reading of a capture date as ISO 8601 without zone, "2014-06-01T12:00:00"; as far as its parts are
+/// set.
 std::string isoReading(const KTDateComponents& components);

@@ -82,8 +82,10 @@ private:
             json.member(field->key(), value);
             auto components = value.components();
             auto instant = components ? KTInstantOfComponents(*components) : std::nullopt;
-            if (instant) { // the zone is a property of its own: dateTimeOriginalComponents, dateTimeOriginalTimeZone
-                const std::string family = field->key().substr(0, field->key().size() - std::size("Components") + 1);
+            if (instant) { // the zone is a property of its own: dateTimeOriginalComponents,
+                           // dateTimeOriginalTimeZone
+                const std::string family =
+                    field->key().substr(0, field->key().size() - std::size("Components") + 1);
                 json.member(family + "TimeZone", components->timeZone->offsetText(*instant));
                 json.member(family, *instant);
             }

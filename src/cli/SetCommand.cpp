@@ -9,8 +9,8 @@
 
 namespace {
 
-/// What a user typed for a field, as a value of the field's type; empty text clears. Throws UsageError when it is
-/// none.
+/// What a user typed for a field, as a value of the field's type; empty text clears. Throws UsageError when
+/// it is none.
 KTValue valueFromText(const KTMetadataField& field, std::string_view text) {
     if (KTTrimmed(text).empty())
         return {};
@@ -83,7 +83,8 @@ private:
         for (const std::string& argument : arguments) {
             const auto equals = argument.find('=');
             const bool isEdit = paths.empty() && equals != std::string::npos &&
-                                std::ranges::all_of(argument.substr(0, equals), [](unsigned char c) { return std::isalnum(c); });
+                                std::ranges::all_of(argument.substr(0, equals),
+                                                    [](unsigned char c) { return std::isalnum(c); });
             if (!isEdit) {
                 paths.push_back(argument);
                 continue;
@@ -106,8 +107,8 @@ private:
         if (photo->isValid()) {
             for (const auto& [key, value] : edits)
                 photo->setValueForKey(key, value);
-            photo->saveWithBackupToFolder(backupFolder.empty() ? std::nullopt
-                                                               : std::optional<std::filesystem::path>(backupFolder));
+            photo->saveWithBackupToFolder(
+                backupFolder.empty() ? std::nullopt : std::optional<std::filesystem::path>(backupFolder));
         }
         const bool saved = photo->isValid() && !photo->hasUnsavedChanges();
         if (!saved)
@@ -132,8 +133,11 @@ private:
 void addSetCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<SetCommand>();
     CLI::App* parser = app.add_subcommand("set", "Set fields by key and save");
-    parser->add_option("--backup", command->backupFolder, "Keep backups there")->check(CLI::ExistingDirectory);
-    parser->add_option("KEY=VALUE... PATH...", command->arguments, "Edits, then photos or folders; an empty value clears")
+    parser->add_option("--backup", command->backupFolder, "Keep backups there")
+        ->check(CLI::ExistingDirectory);
+    parser
+        ->add_option("KEY=VALUE... PATH...", command->arguments,
+                     "Edits, then photos or folders; an empty value clears")
         ->required();
     commands.push_back({parser, std::move(command)});
 }

@@ -57,8 +57,9 @@ private:
 
     static void printText(const std::string& file, const KTTrackImportResult& result) {
         std::printf("%s: %s%lld points (%lld with a date), %lld waypoints\n", file.c_str(),
-                    result.alreadyImported ? "already imported, " : "", static_cast<long long>(result.pointCount),
-                    static_cast<long long>(result.datedPointCount), static_cast<long long>(result.waypointCount));
+                    result.alreadyImported ? "already imported, " : "",
+                    static_cast<long long>(result.pointCount), static_cast<long long>(result.datedPointCount),
+                    static_cast<long long>(result.waypointCount));
     }
 };
 
@@ -105,8 +106,9 @@ private:
     }
 
     static void printText(const KTTrack& track) {
-        const std::string span = track.firstDate ? KTISO8601Text(*track.firstDate) + " to " + KTISO8601Text(*track.lastDate)
-                                                 : std::string("no dates");
+        const std::string span =
+            track.firstDate ? KTISO8601Text(*track.firstDate) + " to " + KTISO8601Text(*track.lastDate)
+                            : std::string("no dates");
         const auto count = track.kind == KTTrack::Kind::Waypoints ? track.waypointCount : track.pointCount;
         std::printf("%lld\t%s\t%s\t%lld %s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
                     track.name.c_str(), static_cast<long long>(count),
@@ -159,7 +161,7 @@ public:
     }
 };
 
-template <typename Commands>
+template<typename Commands>
 Commands& add(CLI::App* parser, CommandList& commands) {
     auto command = std::make_unique<Commands>();
     Commands& reference = *command;
@@ -173,7 +175,8 @@ void addTracksCommands(CLI::App& app, CommandList& commands) {
     CLI::App* tracks = app.add_subcommand("tracks", "The track library");
     tracks->require_subcommand(1);
 
-    CLI::App* import = tracks->add_subcommand("import", "Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)");
+    CLI::App* import =
+        tracks->add_subcommand("import", "Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)");
     import->add_option("FILE", add<TracksImportCommand>(import, commands).files, "Track files")->required();
 
     add<TracksListCommand>(tracks->add_subcommand("list", "List what the library holds"), commands);

@@ -20,9 +20,9 @@ bool isSidecarName(const std::filesystem::path& file) {
     return KTEqualIgnoringCase(file.extension().string(), ".xmp");
 }
 
-// Walks the tag list of one read inside the interpreter and hands back group, name, value after one another: the
-// same as asking for each tag by statements of its own, at a quarter of the time. A lens is wanted by its readable
-// name; a capture date in IFD0 must never stand in for the one of the EXIF directory.
+// Walks the tag list of one read inside the interpreter and hands back group, name, value after one another:
+// the same as asking for each tag by statements of its own, at a quarter of the time. A lens is wanted by its
+// readable name; a capture date in IFD0 must never stand in for the one of the EXIF directory.
 constexpr const char* kWalk = R"perl(
 sub waymarkTags {
     my ($tool, $info) = @_;
@@ -54,7 +54,8 @@ void KTExifTool::setLibraryFolder(const std::filesystem::path& folder) {
 }
 
 KTExifTool::KTExifTool() {
-    const std::filesystem::path folder = libraryFolder().empty() ? KTResourcePath("exiftoollib") : libraryFolder();
+    const std::filesystem::path folder =
+        libraryFolder().empty() ? KTResourcePath("exiftoollib") : libraryFolder();
     setValueForVariable(folder.string(), "resourcePath");
     evaluate("use lib $resourcePath;");
     evaluate("use Image::ExifTool;");
@@ -65,7 +66,8 @@ KTPhotoOperation KTExifTool::extractAllKeysIntoDictionary(KTTagDictionary& dicti
                                                           const std::filesystem::path& fromFile) {
     std::lock_guard guard(lock);
     evaluate("$fetchTool = new Image::ExifTool;");
-    evaluate("$fetchTool->Options(FixBase=>'', IgnoreMinorErrors=>1, Composite=>1, Duplicates => 1, PrintConv => 0, "
+    evaluate("$fetchTool->Options(FixBase=>'', IgnoreMinorErrors=>1, Composite=>1, Duplicates => 1, "
+             "PrintConv => 0, "
              "Sort => 'Group0', Exclude => 'ThumbnailImage');");
     setValueForVariable(fromFile.string(), "fetchToolPath");
     evaluate("$imageInfo = $fetchTool->ImageInfo($fetchToolPath);");
@@ -129,7 +131,8 @@ KTPhotoOperation KTExifTool::writeChanges(const KTTagDictionary& changes, const 
         writesIPTC = writesIPTC || std::string_view(key).starts_with("IPTC");
     }
     if (writesIPTC) // so that the stored digest matches the new IPTC data
-        evaluate("($success, $errorString) = $exifTool->SetNewValue('Photoshop:IPTCDigest', 'new', Protected => 1);");
+        evaluate("($success, $errorString) = $exifTool->SetNewValue('Photoshop:IPTCDigest', 'new', Protected "
+                 "=> 1);");
     return writeResultToFile(toFile, fromSourceFile);
 }
 
@@ -212,7 +215,8 @@ KTPhotoOperation KTExifTool::writeResultToFile(const std::filesystem::path& toFi
 
 bool KTExifTool::canWriteToFile(const std::string& fileNameOrType) {
     if (!canBeQuoted(fileNameOrType)) {
-        KTLog(KTStringWithFormat("canWriteToFile: \"%@\" contains a quote or a backslash.", {fileNameOrType}));
+        KTLog(
+            KTStringWithFormat("canWriteToFile: \"%@\" contains a quote or a backslash.", {fileNameOrType}));
         return false;
     }
     std::lock_guard guard(lock);

@@ -70,7 +70,8 @@ std::string KTGPSDifferentialFormatter::stringForObjectValue(const KTValue& valu
     auto number = numberOrTextNumber(value);
     if (!number)
         return "";
-    return number->isZero() ? KTLocalizedString("No correction") : KTLocalizedString("Differential correction");
+    return number->isZero() ? KTLocalizedString("No correction")
+                            : KTLocalizedString("Differential correction");
 }
 
 std::string KTGPSMeasurementModeFormatter::stringForObjectValue(const KTValue& value) const {

@@ -11,7 +11,8 @@ KTMetadataProperties metadataPropertiesOf(const KTTagDictionary& tags) {
     const KTValue digest = tags.valueForKey("Photoshop:IPTCDigest");
     properties.hasIPTCChecksum = digest.isSomething();
     properties.iptcChecksumDoesMatch =
-        digest.isSomething() && digest.description() == tags.valueForKey("File:CurrentIPTCDigest").description();
+        digest.isSomething() &&
+        digest.description() == tags.valueForKey("File:CurrentIPTCDigest").description();
     return properties;
 }
 

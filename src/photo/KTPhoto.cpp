@@ -32,7 +32,9 @@ bool KTPhoto::hasXMPSidecar() const {
 }
 
 KTSaveTargets KTPhoto::targets() const {
-    return saveTargets(imageURL, KTUserDefaults::standardUserDefaults().integerForKey("defaultXMPSidecarStyle"), hasXMPSidecar());
+    return saveTargets(imageURL,
+                       KTUserDefaults::standardUserDefaults().integerForKey("defaultXMPSidecarStyle"),
+                       hasXMPSidecar());
 }
 
 bool KTPhoto::hasUnsavedChanges() const {
@@ -76,8 +78,8 @@ void KTPhoto::assign(std::string_view key, const KTValue& value) {
     values.set(key, std::move(stored));
 }
 
-/// An edit back to what every source that a save writes to holds withdraws the field's pending tags; any other edit
-/// is recorded for both sources, whichever of them the next save writes.
+/// An edit back to what every source that a save writes to holds withdraws the field's pending tags; any
+/// other edit is recorded for both sources, whichever of them the next save writes.
 void KTPhoto::recordEdit(const KTMetadataField& field) {
     const KTValue value = valueForKey(field.key());
     const KTSaveTargets where = targets();

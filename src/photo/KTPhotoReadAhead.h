@@ -4,9 +4,9 @@
 #include <condition_variable>
 #include <thread>
 
-/// Reads photos on threads of its own, each with an interpreter of its own, a few ahead of the one that is asked for,
-/// and hands them out strictly in the order of their files. For reading only: a photo that is handed out may have been
-/// read before an earlier one was dealt with. One thread asks.
+/// Reads photos on threads of its own, each with an interpreter of its own, a few ahead of the one that is
+/// asked for, and hands them out strictly in the order of their files. For reading only: a photo that is
+/// handed out may have been read before an earlier one was dealt with. One thread asks.
 class KTPhotoReadAhead {
 public:
     /// @p threads 0 takes one a core, and fewer where few files would not repay an interpreter.

@@ -55,7 +55,8 @@ bool KTPhoto::saveImage(const std::optional<fs::path>& backupFolder) {
     if (!writeAndReplace(image, image.changes, imageURL, imageURL))
         return false;
     if (KTUserDefaults::standardUserDefaults().boolForKey("defaultShouldPreserveModificationDate"))
-        log(imageURL, "Preserve modification date", modified ? KTSetModificationDate(imageURL, *modified) : std::nullopt);
+        log(imageURL, "Preserve modification date",
+            modified ? KTSetModificationDate(imageURL, *modified) : std::nullopt);
     image.properties.hasEXIFBlock = true;
     return true;
 }
@@ -68,7 +69,8 @@ bool KTPhoto::saveSidecar(const std::optional<fs::path>& backupFolder) {
         return writeAndReplace(sidecar, content, xmpURL(), imageURL);
     }
     if (backupFolder) // a failure of this copy does not keep the save
-        static_cast<void>(KTCopyItem(xmpURL(), *backupFolder / KTBackupName(*backupFolder, xmpURL().filename())));
+        static_cast<void>(
+            KTCopyItem(xmpURL(), *backupFolder / KTBackupName(*backupFolder, xmpURL().filename())));
     return writeAndReplace(sidecar, sidecar.changes, xmpURL(), xmpURL());
 }
 
@@ -87,8 +89,8 @@ KTTagDictionary KTPhoto::seedsOfNewSidecar() const {
     return seeds;
 }
 
-/// Writing IPTC renews its digest, which says that IPTC and XMP agree. Where they do not, the fields that the user did
-/// not touch would read from XMP ever after; so both get the value that stands in the photo now.
+/// Writing IPTC renews its digest, which says that IPTC and XMP agree. Where they do not, the fields that the
+/// user did not touch would read from XMP ever after; so both get the value that stands in the photo now.
 void KTPhoto::recordDivergentIPTCFields() {
     const bool diverges = image.properties.hasIPTCChecksum && !image.properties.iptcChecksumDoesMatch;
     const bool writesIPTC = std::ranges::any_of(
@@ -100,8 +102,8 @@ void KTPhoto::recordDivergentIPTCFields() {
             image.record(*field, image.valueForField(*field));
 }
 
-bool KTPhoto::writeAndReplace(KTMetadataSource& source, const KTTagDictionary& changes, const fs::path& target,
-                              const fs::path& contentFrom) {
+bool KTPhoto::writeAndReplace(KTMetadataSource& source, const KTTagDictionary& changes,
+                              const fs::path& target, const fs::path& contentFrom) {
     KTItemReplacement replacement(target);
     if (replacement.error()) {
         log(target, "Create temporary directory", *replacement.error());

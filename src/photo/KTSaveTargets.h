@@ -14,7 +14,7 @@ struct KTSaveTargets {
     bool xmpSidecar = false;
 };
 
-/// The targets for the image @p file under the setting `defaultXMPSidecarStyle`: 0 image, 1 image where its type
-/// embeds XMP and else sidecar, 2 sidecar, 3 both, 4 sidecar where one exists and else image; no target for any
-/// other value. A "crw" file is never written into, whatever the style.
+/// The targets for the image @p file under the setting `defaultXMPSidecarStyle`: 0 image, 1 image where its
+/// type embeds XMP and else sidecar, 2 sidecar, 3 both, 4 sidecar where one exists and else image; no target
+/// for any other value. A "crw" file is never written into, whatever the style.
 KTSaveTargets saveTargets(const std::filesystem::path& file, std::int64_t sidecarStyle, bool hasSidecar);

@@ -35,7 +35,8 @@ bool isAsWritten(const KTValue& written, const KTValue& read) {
     return std::ranges::equal(writtenTexts, readTexts, [](const std::string& a, const std::string& b) {
         // Formats pad or cut at the end, and dates come back without the zone that an EXIF date cannot hold.
         std::string_view x = KTTrimmed(a), y = KTTrimmed(b);
-        return x == y || (x.size() > 19 && y == x.substr(0, 19) && KTDateComponents::dateComponentsWithString(x));
+        return x == y ||
+               (x.size() > 19 && y == x.substr(0, 19) && KTDateComponents::dateComponentsWithString(x));
     });
 }
 
@@ -46,9 +47,9 @@ KTTagDictionary adaptedToLanguageAlternatives(const KTTagDictionary& changes, co
     for (const auto& [key, value] : changes) {
         const std::string plain = key.text();
         const std::string other = plain + "-";
-        const bool hasOtherLanguages = plain.starts_with("XMP:") && std::ranges::any_of(saved, [&](const auto& tag) {
-            return tag.key.text().starts_with(other);
-        });
+        const bool hasOtherLanguages =
+            plain.starts_with("XMP:") &&
+            std::ranges::any_of(saved, [&](const auto& tag) { return tag.key.text().starts_with(other); });
         const bool addressesDefault = hasOtherLanguages && value.text();
         result.set(addressesDefault ? plain + std::string(kDefaultLanguage) : plain, value);
     }
@@ -71,8 +72,9 @@ void addWarning(KTPhotoOperation& operation, const KTTagDictionary& values) {
     std::vector<std::string> keys;
     for (const auto& [key, value] : values)
         keys.push_back(key.text());
-    std::string warning = KTStringWithFormat(
-        KTLocalizedString("The file does not hold these values as they were given: %@"), {KTJoin(keys, ", ")});
+    std::string warning =
+        KTStringWithFormat(KTLocalizedString("The file does not hold these values as they were given: %@"),
+                           {KTJoin(keys, ", ")});
     if (operation.warningDescription)
         warning = *operation.warningDescription + "; " + warning;
     operation.isWarning = true;

@@ -2,12 +2,15 @@
 #include "metadata/KTPhotoOperation.h"
 #include "metadata/KTTagDictionary.h"
 
-/// Writing a language-alternative text under its plain key deletes its other languages; where @p saved holds others
-/// ("XMP:Description-de"), the default entry alone is addressed. Deleting the plain key still clears all languages.
+/// Writing a language-alternative text under its plain key deletes its other languages; where @p saved holds
+/// others
+/// ("XMP:Description-de"), the default entry alone is addressed. Deleting the plain key still clears all
+/// languages.
 KTTagDictionary adaptedToLanguageAlternatives(const KTTagDictionary& changes, const KTTagDictionary& saved);
 
-/// The entries of @p changes that @p asRead does not show: refused by the library, or changed on the way (a character
-/// that the format cannot hold). Numbers count as equal within the precision of the formats' fractions.
+/// The entries of @p changes that @p asRead does not show: refused by the library, or changed on the way (a
+/// character that the format cannot hold). Numbers count as equal within the precision of the formats'
+/// fractions.
 KTTagDictionary valuesNotWritten(const KTTagDictionary& changes, const KTTagDictionary& asRead);
 
 /// Adds to @p operation a warning that names the keys of @p values.

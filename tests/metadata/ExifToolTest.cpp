@@ -1,9 +1,10 @@
 #include "metadata/KTExifTool.h"
 
+#include "platform/common/KTText.h"
 #include "tests/support/TestPhotos.h"
 
-#include <gtest/gtest.h>
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <thread>
 
 namespace {
@@ -48,7 +49,8 @@ TEST(ExifTool, ConvertsScalarsByTheirKind) {
     EXPECT_EQ(tool().evaluate("'2.50'"), KTValue("2.50"));
     EXPECT_TRUE(tool().evaluate("42").integer());
     EXPECT_EQ(tool().evaluate("18446744073709551615"), KTValue(KTDecimal::fromUnsigned(UINT64_MAX)));
-    EXPECT_EQ(tool().evaluate("['a', undef, {}, 3, ['b']]"), KTValue(KTValue::List{"a", 3, KTValue(KTValue::List{"b"})}));
+    EXPECT_EQ(tool().evaluate("['a', undef, {}, 3, ['b']]"),
+              KTValue(KTValue::List{"a", 3, KTValue(KTValue::List{"b"})}));
     EXPECT_EQ(tool().evaluate("\\'bytes'"), KTValue("bytes"));
     EXPECT_TRUE(tool().evaluate("{a => 1}").isAbsent());
     EXPECT_TRUE(tool().evaluate("sub {}").isAbsent());
@@ -99,19 +101,23 @@ TEST(ExifTool, CaptureDateOfTheFirstDirectoryNeverStandsForTheOneOfTheExifDirect
 
 TEST(ExifTool, AnyPathCrossesUnharmed) {
     TemporaryFolder folder;
-    for (const char* name : {"ordinary.jpg", "Ünï©ödé 写真 🙂.jpg", "new\nline.jpg", "quo'te\"d.jpg", "$dollar@at%.jpg",
-                             "back\\slash.jpg", "latin1-\xe9.jpg", "-dash.jpg", "pipe|.jpg", " blank .jpg"}) {
+    for (const char* name :
+         {"ordinary.jpg", "Ünï©ödé 写真 🙂.jpg", "new\nline.jpg", "quo'te\"d.jpg", "$dollar@at%.jpg",
+          "back\\slash.jpg", "latin1-\xe9.jpg", "-dash.jpg", "pipe|.jpg", " blank .jpg"}) {
         auto file = makePhoto(folder, name, {{"XMP:Title", name}});
         KTTagDictionary tags = tagsOf(file);
         EXPECT_EQ(tags.valueForKey("File:FileType"), KTValue("JPEG")) << name;
-        if (std::string_view(name) != "latin1-\xe9.jpg" && std::string_view(name) != " blank .jpg")
+        // A text is UTF-8 and loses the blanks at its ends in XMP; a path may be any bytes.
+        if (KTIsUTF8(name) && KTTrimmed(name) == name) {
             EXPECT_EQ(tags.valueForKey("XMP:Title"), KTValue(name)) << name;
+        }
     }
 }
 
 TEST(ExifTool, WritesDeletesAndRefuses) {
     TemporaryFolder folder;
-    auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "t"}, {"XMP:Subject", KTValue::listOfTexts({"a", "b"})}});
+    auto file =
+        makePhoto(folder, "a.jpg", {{"XMP:Title", "t"}, {"XMP:Subject", KTValue::listOfTexts({"a", "b"})}});
     const std::string before = contentOf(file);
 
     auto refused = tool().setValuesForKeysWithDictionary({{"XMP:Ti'tle", "x"}, {"XMP:Title", "y"}}, file);
@@ -126,7 +132,8 @@ TEST(ExifTool, WritesDeletesAndRefuses) {
                                                           {"EXIF:FNumber", *KTDecimal::fromText("5.6")},
                                                           {"XMP:NoSuchTag", "x"}},
                                                          destination, file);
-    EXPECT_EQ(written.resultType(), KTPhotoOperation::Warning) << "the unknown tag is named, the rest written";
+    EXPECT_EQ(written.resultType(), KTPhotoOperation::Warning)
+        << "the unknown tag is named, the rest written";
     EXPECT_NE(written.resultDescription().find("NoSuchTag"), std::string::npos);
     EXPECT_EQ(contentOf(file), before) << "the source stays as it was";
     KTTagDictionary tags = tagsOf(destination);
@@ -155,7 +162,8 @@ TEST(ExifTool, RenewsTheIPTCDigestOnlyWithIPTCData) {
 
 TEST(ExifTool, MakesASidecarOfEveryTagOverriddenByTheChanges) {
     TemporaryFolder folder;
-    auto file = makePhoto(folder, "a.jpg", {{"EXIF:Make", "Canon"}, {"XMP:Title", "old"}, {"EXIF:Model", "M"}});
+    auto file =
+        makePhoto(folder, "a.jpg", {{"EXIF:Make", "Canon"}, {"XMP:Title", "old"}, {"EXIF:Model", "M"}});
     auto sidecar = folder / "a.XMP";
     auto written = tool().setValuesForKeysWithDictionary({{"XMP:Title", "new"}}, sidecar, file);
     EXPECT_TRUE(written.operationDidSucceed) << written.resultDescription();
@@ -174,7 +182,8 @@ TEST(ExifTool, ReportsFilesThatCannotBeRead) {
     EXPECT_FALSE(missing.operationDidSucceed);
     EXPECT_EQ(missing.failureReason, 0U);
     EXPECT_FALSE(missing.resultDescription().empty());
-    auto garbage = tool().extractAllKeysIntoDictionary(tags, folder.file("x.jpg", std::string_view("\1\2\3\4\0\6", 6)));
+    auto garbage =
+        tool().extractAllKeysIntoDictionary(tags, folder.file("x.jpg", std::string_view("\1\2\3\4\0\6", 6)));
     EXPECT_EQ(garbage.resultType(), KTPhotoOperation::Failure);
 }
 
@@ -196,11 +205,13 @@ TEST(ExifTool, SharesOneInterpreterAmongThreads) {
     for (int n = 0; n < 4; ++n)
         threads.emplace_back([&, n] {
             const std::string title = "title " + std::to_string(n);
-            auto file = folder.file(title + ".xmp", "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
-                                                    "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'/></x:xmpmeta>");
+            auto file = folder.file(title + ".xmp",
+                                    "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                                    "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'/></x:xmpmeta>");
             bool all = true;
             for (int round = 0; round < 5; ++round) {
-                all &= tool().setValuesForKeysWithDictionary({{"XMP:Title", title}}, file).operationDidSucceed;
+                all &=
+                    tool().setValuesForKeysWithDictionary({{"XMP:Title", title}}, file).operationDidSucceed;
                 all &= tagsOf(file).valueForKey("XMP:Title") == KTValue(title);
             }
             right[std::size_t(n)] = all;

@@ -17,7 +17,8 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(folder, ignored);
 }
 
-std::filesystem::path TemporaryFolder::file(const std::filesystem::path& name, std::string_view content) const {
+std::filesystem::path TemporaryFolder::file(const std::filesystem::path& name,
+                                            std::string_view content) const {
     std::filesystem::path path = folder / name;
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << content;

@@ -27,16 +27,17 @@ public:
     }
     bool startsNumber() const { return !rest.empty() && isDigit(rest.front()); }
 
-    /// A number of 1 to @p width digits, or as many blanks for an unset part; false when neither stands here.
+    /// A number of 1 to @p width digits, or as many blanks (fewer at the end) for an unset part; false when neither stands here.
     bool part(std::size_t width, std::int64_t& value) {
         value = KTDateComponents::kUndefined;
         std::size_t length = 0;
         while (length < width && length < rest.size() && isDigit(rest[length]))
             ++length;
         if (length == 0) {
-            if (rest.size() < width || rest.substr(0, width).find_first_not_of(' ') != std::string_view::npos)
+            std::string_view blanks = rest.substr(0, width); // fewer where the end of the text was trimmed
+            if (blanks.find_first_not_of(' ') != std::string_view::npos)
                 return false;
-            rest.remove_prefix(width);
+            rest.remove_prefix(blanks.size());
             return true;
         }
         value = 0;

@@ -28,7 +28,8 @@ int digitCount(const Integer& value) {
 Integer withoutLastDigits(const Integer& value, int places, bool negative, KTDecimal::Rounding rounding) {
     Integer divisor = powerOfTen(places), remainder, quotient;
     mp::divide_qr(value, divisor, quotient, remainder);
-    bool up = rounding == KTDecimal::Rounding::Plain ? remainder * 2 >= divisor : negative && !remainder.is_zero();
+    bool up =
+        rounding == KTDecimal::Rounding::Plain ? remainder * 2 >= divisor : negative && !remainder.is_zero();
     return up ? Integer(quotient + 1) : quotient;
 }
 
@@ -83,7 +84,8 @@ struct KTDecimal::Wide {
 };
 
 KTDecimal KTDecimal::fromInteger(std::int64_t value) {
-    std::uint64_t magnitude = value < 0 ? ~static_cast<std::uint64_t>(value) + 1 : static_cast<std::uint64_t>(value);
+    std::uint64_t magnitude =
+        value < 0 ? ~static_cast<std::uint64_t>(value) + 1 : static_cast<std::uint64_t>(value);
     KTDecimal result = fromUnsigned(magnitude);
     result.negative = value < 0;
     return result;
@@ -193,9 +195,11 @@ KTDecimal KTDecimal::rounded(int fractionalDigits, Rounding rounding) const {
     if (isNotANumber || excess <= 0)
         return *this;
     if (excess > kDigits + 1)
-        return rounding == Rounding::Down && negative ? Wide(Integer(1), -fractionalDigits, true).narrowed() : KTDecimal();
+        return rounding == Rounding::Down && negative ? Wide(Integer(1), -fractionalDigits, true).narrowed()
+                                                      : KTDecimal();
     Wide wide(*this);
-    return Wide(withoutLastDigits(wide.mantissa, excess, negative, rounding), -fractionalDigits, negative).narrowed();
+    return Wide(withoutLastDigits(wide.mantissa, excess, negative, rounding), -fractionalDigits, negative)
+        .narrowed();
 }
 
 KTDecimal KTDecimal::operator-() const {
@@ -234,7 +238,8 @@ KTDecimal operator*(const KTDecimal& left, const KTDecimal& right) {
     if (left.isNaN() || right.isNaN())
         return KTDecimal::notANumber();
     KTDecimal::Wide a(left), b(right);
-    return KTDecimal::Wide(a.mantissa * b.mantissa, a.exponent + b.exponent, a.negative != b.negative).narrowed();
+    return KTDecimal::Wide(a.mantissa * b.mantissa, a.exponent + b.exponent, a.negative != b.negative)
+        .narrowed();
 }
 
 KTDecimal operator/(const KTDecimal& left, const KTDecimal& right) {
@@ -243,7 +248,8 @@ KTDecimal operator/(const KTDecimal& left, const KTDecimal& right) {
     KTDecimal::Wide a(left), b(right);
     constexpr int extra = 2 * kDigits + 2;
     a.bringToExponent(a.exponent - extra);
-    return KTDecimal::Wide(a.mantissa / b.mantissa, a.exponent - b.exponent, a.negative != b.negative).narrowed();
+    return KTDecimal::Wide(a.mantissa / b.mantissa, a.exponent - b.exponent, a.negative != b.negative)
+        .narrowed();
 }
 
 int KTDecimal::compare(const KTDecimal& other) const {

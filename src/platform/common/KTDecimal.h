@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-/// A decimal number: a mantissa of up to 38 digits times a power of ten, or not-a-number. A value type, safe on
-/// every thread; no operation throws. Results that need more than 38 digits are rounded half away from zero;
-/// magnitudes beyond 10^400 become not-a-number, below 10^-400 zero. Trailing zeros are not kept, so equal numbers
-/// have equal members.
+/// A decimal number: a mantissa of up to 38 digits times a power of ten, or not-a-number. A value type, safe
+/// on every thread; no operation throws. Results that need more than 38 digits are rounded half away from
+/// zero; magnitudes beyond 10^400 become not-a-number, below 10^-400 zero. Trailing zeros are not kept, so
+/// equal numbers have equal members.
 class KTDecimal {
 public:
     enum class Rounding {

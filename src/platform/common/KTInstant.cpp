@@ -16,9 +16,9 @@ std::string KTISO8601Text(KTInstant instant) {
     std::chrono::year_month_day date(day);
     std::chrono::hh_mm_ss time(instant - day);
     char text[48];
-    std::snprintf(text, sizeof text, "%04d-%02u-%02uT%02d:%02d:%02d", int(date.year()), unsigned(date.month()),
-                  unsigned(date.day()), int(time.hours().count()), int(time.minutes().count()),
-                  int(time.seconds().count()));
+    std::snprintf(text, sizeof text, "%04d-%02u-%02uT%02d:%02d:%02d", int(date.year()),
+                  unsigned(date.month()), unsigned(date.day()), int(time.hours().count()),
+                  int(time.minutes().count()), int(time.seconds().count()));
     std::string result = text;
     if (int milliseconds = int(time.subseconds().count()); milliseconds != 0) {
         std::snprintf(text, sizeof text, ".%03d", milliseconds);

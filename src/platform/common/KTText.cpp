@@ -11,7 +11,10 @@ std::size_t sequenceLength(std::string_view bytes) {
     std::uint8_t first = at(0);
     if (first < 0x80)
         return 1;
-    std::size_t length = first >= 0xC2 && first <= 0xDF ? 2 : (first & 0xF0) == 0xE0 ? 3 : first >= 0xF0 && first <= 0xF4 ? 4 : 0;
+    std::size_t length = first >= 0xC2 && first <= 0xDF   ? 2
+                         : (first & 0xF0) == 0xE0         ? 3
+                         : first >= 0xF0 && first <= 0xF4 ? 4
+                                                          : 0;
     if (length == 0 || bytes.size() < length)
         return 0;
     for (std::size_t i = 1; i < length; ++i)

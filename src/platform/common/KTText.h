@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-/// Small helpers for UTF-8 text. "White space" is blank, tab and the line breaks unless said otherwise; letter case
-/// is that of ASCII.
+/// Small helpers for UTF-8 text. "White space" is blank, tab and the line breaks unless said otherwise;
+/// letter case is that of ASCII.
 
 /// Whether @p bytes are well-formed UTF-8 (no overlong forms, surrogates or values past U+10FFFF).
 bool KTIsUTF8(std::string_view bytes);
@@ -18,6 +18,7 @@ std::string KTLowercase(std::string_view text);
 std::vector<std::string> KTSplit(std::string_view text, char separator);
 std::string KTJoin(const std::vector<std::string>& parts, std::string_view separator);
 
-/// @p format with its placeholders (%@, %d, %u, %ld, %lu, %llu) filled from @p arguments in order, or by number
-/// where a translation wrote "%2$@"; "%%" gives a percent sign. A placeholder without argument becomes empty.
+/// @p format with its placeholders (%@, %d, %u, %ld, %lu, %llu) filled from @p arguments in order, or by
+/// number where a translation wrote "%2$@"; "%%" gives a percent sign. A placeholder without argument becomes
+/// empty.
 std::string KTStringWithFormat(std::string_view format, std::initializer_list<std::string> arguments);

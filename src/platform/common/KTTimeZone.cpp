@@ -10,7 +10,8 @@ namespace {
 std::string textOfOffset(int seconds) {
     int magnitude = std::abs(seconds);
     char text[24];
-    std::snprintf(text, sizeof text, "%c%02d:%02d", seconds < 0 ? '-' : '+', magnitude / 3600, magnitude / 60 % 60);
+    std::snprintf(text, sizeof text, "%c%02d:%02d", seconds < 0 ? '-' : '+', magnitude / 3600,
+                  magnitude / 60 % 60);
     std::string result = text;
     if (magnitude % 60 != 0) {
         std::snprintf(text, sizeof text, ":%02d", magnitude % 60);

@@ -6,8 +6,8 @@
 
 class QTimeZone;
 
-/// A time zone: a fixed offset from UTC or a named region with its rules. A value type; const use is safe on every
-/// thread.
+/// A time zone: a fixed offset from UTC or a named region with its rules. A value type; const use is safe on
+/// every thread.
 class KTTimeZone {
 public:
     KTTimeZone() = default; ///< UTC
@@ -20,15 +20,15 @@ public:
     static std::optional<KTTimeZone> named(std::string_view region);
     /// What a user types: "+02:00", "+0200", "+2", "Z", "UTC", "GMT", "Area/City"; nothing for anything else.
     static std::optional<KTTimeZone> fromText(std::string_view text);
-    /// The zone suffix of a date text as image files hold it ("2012:07:04 10:00:00+02:00", "...Z"); nothing when
-    /// the text carries none.
+    /// The zone suffix of a date text as image files hold it ("2012:07:04 10:00:00+02:00", "...Z"); nothing
+    /// when the text carries none.
     static std::optional<KTTimeZone> timeZoneWithString(std::string_view dateText);
 
     bool isFixed() const { return !region; }
     /// Seconds east of UTC in force at @p instant.
     int secondsFromGMT(KTInstant instant) const;
-    /// The instant at which clocks of this zone show @p local. A reading that a change of clocks skips or repeats
-    /// is resolved as the platform does.
+    /// The instant at which clocks of this zone show @p local. A reading that a change of clocks skips or
+    /// repeats is resolved as the platform does.
     KTInstant instantOfLocalTime(std::chrono::local_time<std::chrono::milliseconds> local) const;
     /// "Europe/Berlin", or "UTC", or an offset such as "+02:00".
     std::string name() const;

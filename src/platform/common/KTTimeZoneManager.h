@@ -1,7 +1,6 @@
 #pragma once
 #include "platform/observing/KTObservable.h"
 
-
 /// Holds the zone in which the application shows dates. Observable under "timeZone". Any thread.
 class KTTimeZoneManager : public KTObservable {
 public:

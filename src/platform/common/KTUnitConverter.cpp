@@ -50,8 +50,9 @@ std::string durationText(std::uint64_t seconds, std::size_t parts) {
 
 /// Two significant digits below ten, none after the point above: "1.2", "25", "140".
 std::string roundedNumber(double number) {
-    return std::abs(number) < 9.95 && std::round(number * 10) != std::round(number) * 10 ? numberText(number, 1)
-                                                                                         : numberText(number, 0);
+    return std::abs(number) < 9.95 && std::round(number * 10) != std::round(number) * 10
+               ? numberText(number, 1)
+               : numberText(number, 0);
 }
 
 } // namespace
@@ -78,7 +79,8 @@ void KTUnitConverter::setDistanceUnits(Units newUnits) {
 }
 
 std::string KTUnitConverter::descriptionFromSeconds(std::int64_t seconds) const {
-    return durationText(static_cast<std::uint64_t>(std::abs(std::max(seconds, -INT64_MAX))), std::size(kDurationParts));
+    return durationText(static_cast<std::uint64_t>(std::abs(std::max(seconds, -INT64_MAX))),
+                        std::size(kDurationParts));
 }
 
 std::string KTUnitConverter::roundedDescriptionFromSeconds(std::int64_t seconds) const {

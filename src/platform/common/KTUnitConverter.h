@@ -3,8 +3,8 @@
 
 #include <atomic>
 
-/// Durations, distances and heights as texts in the user's units and language, rounded as a person would say them.
-/// Observable under "distanceUnits". Any thread.
+/// Durations, distances and heights as texts in the user's units and language, rounded as a person would say
+/// them. Observable under "distanceUnits". Any thread.
 class KTUnitConverter : public KTObservable {
 public:
     enum class Units { Metric, Imperial, Nautical };
@@ -16,7 +16,8 @@ public:
     Units distanceUnits() const { return units; }
     void setDistanceUnits(Units newUnits);
 
-    /// Days, hours, minutes and seconds, parts that are zero left out: "1 minute 30 seconds". The sign is dropped.
+    /// Days, hours, minutes and seconds, parts that are zero left out: "1 minute 30 seconds". The sign is
+    /// dropped.
     std::string descriptionFromSeconds(std::int64_t seconds) const;
     /// The same to its two largest parts at most, the last one rounded: "2 days 5 hours".
     std::string roundedDescriptionFromSeconds(std::int64_t seconds) const;

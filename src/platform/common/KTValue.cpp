@@ -5,7 +5,8 @@
 KTValue::KTValue(KTDateComponents components)
     : content(std::make_shared<const KTDateComponents>(std::move(components))) {}
 KTValue::KTValue(List list) : content(std::make_shared<const List>(std::move(list))) {}
-KTValue::KTValue(Dictionary dictionary) : content(std::make_shared<const Dictionary>(std::move(dictionary))) {}
+KTValue::KTValue(Dictionary dictionary)
+    : content(std::make_shared<const Dictionary>(std::move(dictionary))) {}
 
 KTValue KTValue::listOfTexts(const std::vector<std::string>& texts) {
     return KTValue(List(texts.begin(), texts.end()));

@@ -9,9 +9,9 @@
 #include <variant>
 #include <vector>
 
-/// A value of a photo's property, a metadata tag or a setting: absent, the null marker (delete), text, integer,
-/// decimal, flag, list, dictionary, instant or date components. Lists, dictionaries and components are immutable and
-/// shared between copies, so copying is cheap and safe across threads.
+/// A value of a photo's property, a metadata tag or a setting: absent, the null marker (delete), text,
+/// integer, decimal, flag, list, dictionary, instant or date components. Lists, dictionaries and components
+/// are immutable and shared between copies, so copying is cheap and safe across threads.
 class KTValue {
 public:
     using List = std::vector<KTValue>;
@@ -33,7 +33,7 @@ public:
     KTValue(KTDateComponents components);
     KTValue(List list);
     KTValue(Dictionary dictionary);
-    template <typename T>
+    template<typename T>
     KTValue(const std::optional<T>& value) : KTValue(value ? KTValue(*value) : KTValue()) {}
     KTValue(std::nullopt_t) {}
 
@@ -63,14 +63,15 @@ public:
     /// For logs and raw display: text as it stands, numbers as plain decimal text, lists joined with ", ".
     std::string description() const;
 
-    /// Numbers are equal when their values are, whether integer or decimal; everything else by kind and content.
+    /// Numbers are equal when their values are, whether integer or decimal; everything else by kind and
+    /// content.
     bool operator==(const KTValue& other) const;
 
 private:
-    template <typename T>
+    template<typename T>
     using Shared = std::shared_ptr<const T>;
 
-    std::variant<std::monostate, Null, std::string, std::int64_t, KTDecimal, bool, KTInstant, Shared<KTDateComponents>,
-                 Shared<List>, Shared<Dictionary>>
+    std::variant<std::monostate, Null, std::string, std::int64_t, KTDecimal, bool, KTInstant,
+                 Shared<KTDateComponents>, Shared<List>, Shared<Dictionary>>
         content;
 };

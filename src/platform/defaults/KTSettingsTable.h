@@ -25,9 +25,8 @@ struct KTSetting {
     /// The texts allowed, separated by '|'; null for any.
     std::string_view choices = {};
 
-    /// What holds as long as no value is stored; absent for the settings without a default. Cheap, but a
-    /// default that depends on the computer is worked out at each call.
-    KTValue defaultValue() const;
+    /// The default that is the same on every computer; absent when there is none.
+    KTValue fixedDefault() const;
     /// @p text as a value of this setting: flags as true/false, yes/no, on/off, 1/0 in any letter case;
     /// numbers as plain decimal text; lists split at '|'; archives as JSON. Nothing when it is not one.
     std::optional<KTValue> valueFromText(std::string_view text) const;

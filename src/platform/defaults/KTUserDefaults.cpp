@@ -138,7 +138,7 @@ bool KTUserDefaults::isReadable() const {
 }
 
 KTValue KTUserDefaults::valueInForce(std::string_view key) const {
-    for (const auto* dictionary : {&forThisRun, &stored, &registered})
+    for (const auto* dictionary : {&forThisRun, &stored, &std::as_const(registered)})
         if (auto entry = dictionary->find(key); entry != dictionary->end())
             return entry->second;
     return {};

@@ -11,7 +11,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr KTInstant newYear(std::chrono::year year) { return std::chrono::sys_days(year / 1 / 1); }
+constexpr KTInstant newYear(std::chrono::year year) {
+    return std::chrono::sys_days(year / 1 / 1);
+}
 
 constexpr KTInstant kFirstDate = newYear(1900y);
 constexpr KTInstant kEndOfIGRF = newYear(2025y);
@@ -40,7 +42,8 @@ GeomagneticModels::GeomagneticModels(const std::filesystem::path& folder) {
     try {
         models = std::make_unique<const Models>(folder.string());
     } catch (const std::exception& error) {
-        KTLog(std::string("The models of the earth's magnetic field cannot be read: ") + error.what());
+        KTLog("The models of the earth's magnetic field cannot be read from " + folder.string() + ": " +
+              error.what());
     }
 }
 
@@ -60,6 +63,7 @@ std::optional<double> GeomagneticModels::declination(double latitude, double lon
     double east = 0, north = 0, up = 0;
     model(decimalYear(date), latitude, longitude, altitude, east, north, up);
     double horizontal = 0, total = 0, declination = 0, inclination = 0;
-    GeographicLib::MagneticModel::FieldComponents(east, north, up, horizontal, total, declination, inclination);
+    GeographicLib::MagneticModel::FieldComponents(east, north, up, horizontal, total, declination,
+                                                  inclination);
     return declination;
 }

@@ -10,7 +10,8 @@ double KTEarthDistance(double longitude1, double latitude1, double longitude2, d
     return distance;
 }
 
-double KTInitialBearingBetweenPoints(double longitude1, double latitude1, double longitude2, double latitude2) {
+double KTInitialBearingBetweenPoints(double longitude1, double latitude1, double longitude2,
+                                     double latitude2) {
     double distance = 0, bearing = 0, finalBearing = 0;
     GeographicLib::Geodesic::WGS84().Inverse(latitude1, longitude1, latitude2, longitude2, distance, bearing,
                                              finalBearing);

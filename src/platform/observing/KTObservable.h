@@ -2,8 +2,8 @@
 #include "platform/common/KTValue.h"
 
 #include <functional>
-#include <vector>
 #include <mutex>
+#include <vector>
 
 /// What is announced about one key of an observed object.
 struct KTChange {
@@ -16,14 +16,14 @@ struct KTChange {
     KTValue oldValue;                 ///< of a setting, where the announcing object gives one
 };
 
-/// An object whose changes others can follow by key. Handlers run synchronously on the announcing thread, outside
-/// every lock of this class, in the order in which they were added.
+/// An object whose changes others can follow by key. Handlers run synchronously on the announcing thread,
+/// outside every lock of this class, in the order in which they were added.
 class KTObservable {
 public:
     using Handler = std::function<void(const KTChange&)>;
 
-    /// Ends its observation when destroyed. May outlive the observed object. After it is destroyed no new call of
-    /// the handler begins; one that another thread has begun may still be running.
+    /// Ends its observation when destroyed. May outlive the observed object. After it is destroyed no new
+    /// call of the handler begins; one that another thread has begun may still be running.
     class Observation {
     public:
         Observation() = default;

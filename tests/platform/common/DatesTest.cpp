@@ -33,9 +33,9 @@ TEST(DateComponents, ParsesWholeAndPartialDates) {
                               {"2014:  :   12:30:  ", "2014:  :   12:30:  "},
                               {" 2016:02:29 00:00:60 ", "2016:02:29 00:00:60"}})
         EXPECT_EQ(parsed(text), exif) << text;
-    for (const char* text : {"", "    :  :     :  :  ", "0000:00:00 00:00:00", "abc", "2014:13:01", "2014:02:30",
-                             "2015:02:29", "2014:06:01 24:00:00", "2014:06:01 12:60:00", "20140601", "201", "12:34:56",
-                             "2014:06:01 x"})
+    for (const char* text :
+         {"", "    :  :     :  :  ", "0000:00:00 00:00:00", "abc", "2014:13:01", "2014:02:30", "2015:02:29",
+          "2014:06:01 24:00:00", "2014:06:01 12:60:00", "20140601", "201", "12:34:56", "2014:06:01 x"})
         EXPECT_EQ(parsed(text), "none") << text;
     auto components = KTDateComponents::dateComponentsWithString("2014:06:01");
     EXPECT_EQ(components->hour, KTDateComponents::kUndefined);
@@ -65,9 +65,16 @@ TEST(TimeZone, ReadsWhatUsersTypeAndWhatFilesHold) {
         const char* text;
         int seconds;
     };
-    for (auto [text, seconds] : {Case{"Z", 0}, {"UTC", 0}, {"+02:00", 7200}, {"-0330", -12600}, {"+2", 7200}, {"+05:30", 19800}, {"-00:00:30", -30}})
+    for (auto [text, seconds] : {Case{"Z", 0},
+                                 {"UTC", 0},
+                                 {"+02:00", 7200},
+                                 {"-0330", -12600},
+                                 {"+2", 7200},
+                                 {"+05:30", 19800},
+                                 {"-00:00:30", -30}})
         EXPECT_EQ(KTTimeZone::fromText(text)->secondsFromGMT({}), seconds) << text;
-    for (const char* text : {"", "x", "+", "+24:00", "+02:60", "02:00", "+1:2:3:4", "Nowhere/City", "../etc/passwd"})
+    for (const char* text :
+         {"", "x", "+", "+24:00", "+02:60", "02:00", "+1:2:3:4", "Nowhere/City", "../etc/passwd"})
         EXPECT_FALSE(KTTimeZone::fromText(text)) << text;
 
     EXPECT_EQ(KTTimeZone::timeZoneWithString("2012:07:04 10:00:00+02:00")->secondsFromGMT({}), 7200);
@@ -88,7 +95,8 @@ TEST(TimeZone, FollowsARegionsRules) {
 }
 
 TEST(Calendar, TurnsComponentsIntoInstantsInTheirZone) {
-    EXPECT_EQ(KTISO8601Text(instantOf("2014:06:01 12:00:00", KTTimeZone::fixed(7200))), "2014-06-01T10:00:00Z");
+    EXPECT_EQ(KTISO8601Text(instantOf("2014:06:01 12:00:00", KTTimeZone::fixed(7200))),
+              "2014-06-01T10:00:00Z");
     EXPECT_EQ(KTISO8601Text(instantOf("2014", KTTimeZone::utc())), "2014-01-01T00:00:00Z");
     EXPECT_EQ(KTISO8601Text(instantOf("2016:12:31 23:59:60", KTTimeZone::utc())), "2017-01-01T00:00:00Z");
     KTDateComponents components = *KTDateComponents::dateComponentsWithString("2014:06:01 12:00:00");

@@ -17,7 +17,8 @@ TEST(Value, ComparesNumbersByValueAndOtherKindsByContent) {
 TEST(Text, AcceptsOnlyWellFormedUTF8) {
     for (const char* text : {"", "ascii", "Zürich", "写真", "🙂", "\xEF\xBF\xBD"})
         EXPECT_TRUE(KTIsUTF8(text)) << text;
-    for (const char* bytes : {"\xe9", "\xc0\xaf", "\xe0\x80\x80", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xf0\x9f\x99", "a\x80"})
+    for (const char* bytes :
+         {"\xe9", "\xc0\xaf", "\xe0\x80\x80", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xf0\x9f\x99", "a\x80"})
         EXPECT_FALSE(KTIsUTF8(bytes));
     EXPECT_EQ(KTValidUTF8("a\xe9z"), "a\xEF\xBF\xBDz");
 }

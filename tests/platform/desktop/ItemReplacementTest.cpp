@@ -48,7 +48,8 @@ std::string accessControlList() {
         std::uint32_t id;
     };
     const Entry entries[] = {{1, 6, ~0u}, {2, 4, 1234}, {4, 4, ~0u}, {0x10, 4, ~0u}, {0x20, 0, ~0u}};
-    return std::string("\2\0\0\0", 4) + std::string(reinterpret_cast<const char*>(entries), sizeof entries);
+    std::string list("\2\0\0\0", 4);
+    return list.append(reinterpret_cast<const char*>(entries), sizeof entries);
 }
 
 struct stat statusOf(const fs::path& file) {

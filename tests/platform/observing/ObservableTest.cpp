@@ -24,8 +24,7 @@ TEST(Observable, AnnouncesBeforeAndAfterInOrderOfObservers) {
     auto first = counter.observe([&](const KTChange& change) { heard += change.isPrior ? "a" : "A"; });
     auto second = counter.observe([&](const KTChange& change) {
         heard += change.isPrior ? "b" : "B";
-        if (!change.isPrior)
-            EXPECT_EQ(change.oldValue, KTValue(0));
+        EXPECT_EQ(change.oldValue, change.isPrior ? KTValue() : KTValue(0));
     });
     counter.setValue(5);
     EXPECT_EQ(heard, "abAB");

@@ -1,0 +1,200 @@
+#include "tests/support/TestPhotos.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+struct Result {
+    int status = -1;
+    std::string output, errors;
+    const QJsonValue json() const {
+        return QJsonDocument::fromJson(QByteArray::fromStdString(output)).object();
+    }
+};
+
+/// The real program, run in a folder of its own with a configuration of its own.
+class CommandLine : public testing::Test {
+protected:
+    void prepare(QProcess& process, const QStringList& arguments) const {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", folder.path().c_str());
+        environment.remove("XDG_CONFIG_HOME");
+        environment.remove("XDG_DATA_HOME");
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path().c_str());
+        process.setProgram(WAYMARK_CLI);
+        process.setArguments(arguments);
+    }
+
+    Result run(const QStringList& arguments) const {
+        QProcess process;
+        prepare(process, arguments);
+        process.start();
+        process.waitForFinished(120000);
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString()};
+    }
+
+    QStringList geotagDemo(const QStringList& more = {}) const {
+        return QStringList{"--json",        "--library",   ":memory:", "geotag",     "--track",
+                           "trip/walk.gpx", "--time-zone", "+02:00",   "trip/photos"} +
+               more;
+    }
+
+    TemporaryFolder folder;
+};
+
+std::set<std::string> outcomes(const QJsonValue& json) {
+    std::set<std::string> result;
+    const QJsonArray photos = json["photos"].toArray();
+    for (const QJsonValue photo : photos)
+        result.insert(QFileInfo(photo["path"].toString()).fileName().toStdString() + " " +
+                      photo["outcome"].toString().toStdString() + " " +
+                      photo["point"].toString().toStdString());
+    return result;
+}
+
+} // namespace
+
+TEST_F(CommandLine, DemoGeotagsItsTripAndTheFilesShowIt) {
+    Result demo = run({"demo", "trip"});
+    ASSERT_EQ(demo.status, 0) << demo.errors;
+    EXPECT_NE(demo.output.find("9 photos can be geotagged"), std::string::npos) << demo.output;
+    KTTagDictionary tags = tagsOf(folder / "trip/photos/IMG_0101.jpg");
+    EXPECT_NEAR(std::stod(tags.valueForKey("EXIF:GPSLatitude").description()), 47.05, 0.05);
+    EXPECT_EQ(tags.valueForKey("EXIF:GPSLatitudeRef"), KTValue("N"));
+    EXPECT_FALSE(tagsOf(folder / "trip/photos/IMG_0111.jpg").find("EXIF:GPSLatitude")) << "no date";
+    EXPECT_EQ(run({"demo", "trip"}).status, 1) << "a folder that holds something is not touched";
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "trip/photos") == false);
+}
+
+TEST_F(CommandLine, GeotagJudgesReportsAndCarriesOn) {
+    ASSERT_EQ(run({"demo", "trip"}).status, 0);
+    Result again = run(geotagDemo());
+    EXPECT_EQ(again.status, 0) << again.errors;
+    EXPECT_EQ(again.json()["counts"]["previouslyGeotaggedFailures"].toInt(), 9);
+    EXPECT_EQ(again.json()["counts"]["timeCriteriaFailures"].toInt(), 2);
+    EXPECT_EQ(again.json()["counts"]["noDateTimeOriginalFailures"].toInt(), 1);
+
+    const std::string before = contentOf(folder / "trip/photos/IMG_0102.jpg");
+    Result dry = run(geotagDemo({"--overwrite", "--time-weighted", "--dry-run"}));
+    EXPECT_EQ(dry.json()["counts"]["totalSuccesses"].toInt(), 9);
+    EXPECT_TRUE(outcomes(dry.json()).contains("IMG_0102.jpg geotagged timeWeighted"));
+    EXPECT_EQ(contentOf(folder / "trip/photos/IMG_0102.jpg"), before);
+    Result wide = run(geotagDemo({"--no-time", "--dry-run"}));
+    EXPECT_TRUE(outcomes(wide.json()).contains("IMG_0108.jpg geotagged next") ||
+                outcomes(wide.json()).contains("IMG_0112.jpg geotagged preceding"));
+    Result otherZone = run(geotagDemo({"--time-zone", "Z", "--dry-run", "--overwrite"}));
+    EXPECT_EQ(otherZone.status, 2) << "the zone is given twice";
+}
+
+TEST_F(CommandLine, ReadsAndSetsPhotos) {
+    makePhoto(
+        folder, "a.jpg",
+        {{"EXIF:DateTimeOriginal", "2014:06:01 12:00:00"}, {"EXIF:FNumber", *KTDecimal::fromText("2.8")}});
+    makePhoto(folder, "sub/B.jpg");
+    Result set = run({"--set", "defaultAssumedTimeZoneOffset=7200", "set", "title=Ein = Titel",
+                      "keywords=lake|walk", "rating=3", ".", "a.jpg"});
+    EXPECT_EQ(set.status, 0) << set.errors;
+    Result read = run({"--json", "--set", "defaultAssumedTimeZoneOffset=7200", "read", "."});
+    const QJsonArray photos = read.json()["photos"].toArray();
+    ASSERT_EQ(photos.size(), 2);
+    const QJsonObject properties = photos[0]["properties"].toObject();
+    EXPECT_EQ(properties["title"].toString(), "Ein = Titel");
+    EXPECT_EQ(properties["keywords"].toArray().size(), 2);
+    EXPECT_EQ(properties["rating"].toInt(), 3);
+    EXPECT_EQ(properties["dateTimeOriginalComponents"].toString(), "2014-06-01T12:00:00");
+    EXPECT_EQ(properties["dateTimeOriginalTimeZone"].toString(), "+02:00");
+    EXPECT_EQ(properties["dateTimeOriginal"].toString(), "2014-06-01T10:00:00Z");
+    EXPECT_FALSE(photos[1]["properties"].toObject().contains("dateTimeOriginal"));
+    EXPECT_TRUE(photos[0]["flags"]["hasIPTCBlock"].isBool());
+    EXPECT_EQ(run({"set", "title=", "a.jpg"}).status, 0);
+    EXPECT_FALSE(tagsOf(folder / "a.jpg").find("XMP:Title"));
+    Result text = run({"read", "a.jpg"});
+    EXPECT_NE(text.output.find("Rating: 3"), std::string::npos) << text.output;
+}
+
+TEST_F(CommandLine, KeepsATrackLibrary) {
+    ASSERT_EQ(run({"demo", "trip"}).status, 0);
+    EXPECT_EQ(run({"tracks", "import", "trip/walk.gpx"}).status, 0);
+    Result twice = run({"--json", "tracks", "import", "trip/walk.gpx"});
+    EXPECT_TRUE(twice.json()["imports"][0]["alreadyImported"].toBool());
+    Result list = run({"--json", "tracks", "list"});
+    ASSERT_EQ(list.json()["tracks"].toArray().size(), 2) << "the track and the waypoint";
+    const QString id = QString::number(list.json()["tracks"][0]["id"].toInt());
+    Result exported = run({"tracks", "export", id});
+    EXPECT_NE(exported.output.find("<gpx"), std::string::npos);
+    Result library =
+        run({"--json", "geotag", "--time-zone", "+02:00", "--overwrite", "--dry-run", "trip/photos"});
+    EXPECT_EQ(library.json()["counts"]["totalSuccesses"].toInt(), 9);
+    EXPECT_EQ(run({"tracks", "remove", id}).status, 0);
+    EXPECT_EQ(run({"tracks", "remove", id}).status, 1);
+    EXPECT_EQ(run({"tracks", "import", "trip/photos/IMG_0101.jpg"}).status, 1);
+}
+
+TEST_F(CommandLine, SaysWhatIsWrongAndTouchesNothing) {
+    auto file = makePhoto(folder, "a.jpg");
+    const std::string before = contentOf(file);
+    for (const QStringList& arguments : {QStringList{},
+                                         {"nonsense"},
+                                         {"--set", "noSuchKey=1", "read", "a.jpg"},
+                                         {"set", "a.jpg"},
+                                         {"set", "noSuchField=1", "a.jpg"},
+                                         {"set", "cameraMake=x", "a.jpg"},
+                                         {"set", "rating=many", "a.jpg"},
+                                         {"set", "dateTimeOriginalComponents=yesterday", "a.jpg"},
+                                         {"geotag", "--time-zone", "Mars", "a.jpg"},
+                                         {"geotag", "--sidecar-style", "7", "a.jpg"},
+                                         {"geotag"},
+                                         {"tracks"}})
+        EXPECT_EQ(run(arguments).status, 2) << arguments.join(" ").toStdString();
+    EXPECT_EQ(contentOf(file), before);
+    EXPECT_EQ(run({"read", "missing.jpg"}).status, 1);
+    folder.file("broken.jpg", std::string_view("\1\2\3\4\0\6", 6));
+    Result broken = run({"--json", "geotag", "broken.jpg"});
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_EQ(broken.json()["photos"][0]["outcome"].toString(), "unreadable");
+    EXPECT_EQ(run({"geotag", "--track", "missing.gpx", "a.jpg"}).status, 1);
+    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_EQ(run({"--version"}).status, 0);
+}
+
+TEST_F(CommandLine, KilledAtAnyMomentItLeavesEveryPhotoOldOrNewAndTheNextRunCarriesOn) {
+    ASSERT_EQ(run({"demo", "trip"}).status, 0);
+    const QStringList overwrite = geotagDemo({"--overwrite"});
+    auto photos = [&] {
+        std::map<std::string, std::string> contents;
+        for (const auto& entry : std::filesystem::directory_iterator(folder / "trip/photos"))
+            if (entry.is_regular_file())
+                contents[entry.path().filename()] = contentOf(entry.path());
+        return contents;
+    };
+    for (int delay : {120, 200, 260, 320}) {
+        const auto before = photos();
+        QProcess process;
+        prepare(process, overwrite);
+        process.start();
+        process.waitForStarted();
+        process.waitForFinished(delay);
+        process.kill();
+        process.waitForFinished();
+        const auto after = photos();
+        ASSERT_EQ(after.size(), 12U);
+        for (const auto& [name, content] : after) {
+            if (content == before.at(name))
+                continue;
+            EXPECT_TRUE(content.starts_with("\xff\xd8") && content.ends_with("\xff\xd9"))
+                << name << " is whole";
+            EXPECT_TRUE(tagsOf(folder / "trip/photos" / name).find("EXIF:GPSLatitude")) << name;
+        }
+    }
+    EXPECT_EQ(run(overwrite).status, 0);
+    for (const auto& entry : std::filesystem::directory_iterator(folder / "trip/photos"))
+        EXPECT_TRUE(entry.is_regular_file()) << entry.path() << " was left behind";
+}

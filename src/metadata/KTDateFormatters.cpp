@@ -5,38 +5,37 @@
 
 #include <QDate>
 #include <QLocale>
+#include <algorithm>
 
 namespace {
 
-std::string timeText(const QTime& time) {
-    // The platform's short time leaves the seconds out.
+/// The locale's short form of the time, which leaves the seconds out, with the seconds where they are set.
+QString timeText(const QTime& time, bool withSeconds) {
     QString format = QLocale().timeFormat(QLocale::ShortFormat);
-    if (!format.contains("ss"))
-        format.replace("mm", "mm:ss");
-    return QLocale().toString(time, format).toStdString();
+    if (const auto minutes = format.indexOf("mm"); withSeconds && minutes > 0 && !format.contains("ss"))
+        format.insert(minutes + 2, format.mid(minutes - 1, 1) + "ss"); // behind the locale's own separator
+    return QLocale().toString(time, format);
+}
+
+int partOrElse(std::int64_t part, bool isSet, int otherwise) {
+    return isSet ? static_cast<int>(std::clamp<std::int64_t>(part, -1, 99999)) : otherwise;
 }
 
 std::string textOf(const KTDateComponents& components) {
-    const auto set = components.unitFlags();
-    if (!set[0])
-        return "";
-    if (!set[1] || !set[2])
-        return set[1] ? QLocale()
-                            .toString(QDate(int(components.year), int(components.month), 1), "MMM yyyy")
-                            .toStdString()
-                      : std::to_string(components.year);
-    std::string text = QLocale()
-                           .toString(QDate(int(components.year), int(components.month), int(components.day)),
-                                     QLocale::ShortFormat)
-                           .toStdString();
-    if (!set[3])
-        return text;
-    auto part = [](bool isSet, std::int64_t value, std::int64_t most) {
-        return isSet ? int(std::min(value, most)) : 0;
-    };
-    return text + " " +
-           timeText({part(true, components.hour, 23), part(set[4], components.minute, 59),
-                     part(set[5], components.second, 59)});
+    const auto [year, month, day, hour, minute, second] = components.unitFlags();
+    if (!year || !month)
+        return year ? std::to_string(components.year) : "";
+    const QDate date(partOrElse(components.year, year, 0), partOrElse(components.month, month, 0),
+                     partOrElse(components.day, day, 1));
+    const QTime time(partOrElse(components.hour, hour, 0), partOrElse(components.minute, minute, 0),
+                     partOrElse(components.second, second, 0));
+    if (!date.isValid() || !time.isValid()) // the reading of a clock that was wrong; shown all the same
+        return components.xmpString().value_or("");
+    QString text =
+        day ? QLocale().toString(date, QLocale::ShortFormat) : QLocale().toString(date, "MMM yyyy");
+    if (day && hour)
+        text += " " + timeText(time, second);
+    return text.toStdString();
 }
 
 } // namespace
@@ -44,8 +43,8 @@ std::string textOf(const KTDateComponents& components) {
 std::string KTDateTimeFormatter::stringForObjectValue(const KTValue& value) const {
     if (!value.date())
         return "";
-    return textOf(
-        KTCalendar(KTTimeZoneManager::sharedTimeZoneManager().timeZone()).componentsFromDate(*value.date()));
+    const KTCalendar calendar(KTTimeZoneManager::sharedTimeZoneManager().timeZone());
+    return textOf(calendar.componentsFromDate(*value.date()));
 }
 
 std::string KTDateComponentsFormatter::stringForObjectValue(const KTValue& value) const {

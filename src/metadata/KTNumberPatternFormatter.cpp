@@ -1,15 +1,32 @@
 #include "metadata/KTNumberPatternFormatter.h"
 
 #include <QLocale>
+#include <algorithm>
+
+namespace {
+
+/// @p text with its digits in the script of @p locale.
+std::string withDigitsOf(const QLocale& locale, const std::string& text) {
+    const char32_t zero = locale.zeroDigit().toUcs4().value(0, U'0');
+    if (zero == U'0')
+        return text;
+    std::u32string result = QString::fromStdString(text).toStdU32String();
+    for (char32_t& c : result)
+        if (c >= U'0' && c <= U'9')
+            c += zero - U'0';
+    return QString::fromStdU32String(result).toStdString();
+}
+
+} // namespace
 
 KTNumberPatternFormatter::KTNumberPatternFormatter(std::string_view pattern) {
     constexpr std::string_view digits = "#0,.";
-    const auto begin = pattern.find_first_of(digits);
-    const auto end = pattern.find_first_not_of(digits, begin);
+    const auto begin = std::min(pattern.find_first_of(digits), pattern.size());
+    const auto end = std::min(pattern.find_first_not_of(digits, begin), pattern.size());
     prefix = pattern.substr(0, begin);
-    suffix = end == std::string_view::npos ? "" : pattern.substr(end);
+    suffix = pattern.substr(end);
     bool fraction = false;
-    for (char c : pattern.substr(begin, end == std::string_view::npos ? end : end - begin)) {
+    for (char c : pattern.substr(begin, end - begin)) {
         if (c == '.')
             fraction = true;
         else if (c == ',')
@@ -46,5 +63,6 @@ std::string KTNumberPatternFormatter::stringForNumber(const KTDecimal& number) c
             whole.insert(at - 3, locale.groupSeparator().toStdString());
     if (!fraction.empty())
         whole += locale.decimalPoint().toStdString() + fraction;
-    return (rounded.isNegative() ? locale.negativeSign().toStdString() : "") + prefix + whole + suffix;
+    return (rounded.isNegative() ? locale.negativeSign().toStdString() : "") + prefix +
+           withDigitsOf(locale, whole) + suffix;
 }

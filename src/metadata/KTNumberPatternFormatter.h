@@ -3,7 +3,7 @@
 
 /// Formats numbers by a pattern: "#" an optional digit, "0" a required one, "," grouping by thousands, "."
 /// the decimal point; what stands before and after these is copied ("#0.0 mm"). Digits beyond the pattern's
-/// are rounded, halves away from zero. Separators are those of the user's locale.
+/// are rounded, halves away from zero. Separators and digits are those of the user's locale.
 class KTNumberPatternFormatter : public KTFormatter {
 public:
     explicit KTNumberPatternFormatter(std::string_view pattern);

@@ -15,11 +15,17 @@ std::string oneDecimal(const KTDecimal& number) {
     return KTNumberPatternFormatter("0.0").stringForNumber(number);
 }
 
-/// The number that a value is or that its text begins with; nothing for other kinds.
+/// The number that a value is or that its text begins with, 0 for other texts; nothing for other kinds.
 std::optional<KTDecimal> numberOrTextNumber(const KTValue& value) {
     if (value.text())
         return KTDecimal::fromPrefix(KTTrimmed(*value.text())).value_or(KTDecimal());
     return numberOf(value);
+}
+
+/// Whether a text means yes by its first letter ("true", "Yes").
+bool saysYes(const KTValue& value) {
+    const std::string_view text = value.text() ? KTTrimmed(*value.text()) : std::string_view();
+    return !text.empty() && std::string_view("tTyY").find(text.front()) != std::string_view::npos;
 }
 
 } // namespace
@@ -70,8 +76,8 @@ std::string KTGPSDifferentialFormatter::stringForObjectValue(const KTValue& valu
     auto number = numberOrTextNumber(value);
     if (!number)
         return "";
-    return number->isZero() ? KTLocalizedString("No correction")
-                            : KTLocalizedString("Differential correction");
+    return number->isZero() && !saysYes(value) ? KTLocalizedString("No correction")
+                                               : KTLocalizedString("Differential correction");
 }
 
 std::string KTGPSMeasurementModeFormatter::stringForObjectValue(const KTValue& value) const {

@@ -3,9 +3,21 @@
 #include "platform/common/KTCalendar.h"
 #include "platform/common/KTTimeZoneManager.h"
 
+#include <QLocale>
 #include <gtest/gtest.h>
 
 namespace {
+
+/// The default locale while it lives.
+struct UserLocale {
+    explicit UserLocale(const char* name) { QLocale::setDefault(QLocale(name)); }
+    ~UserLocale() { QLocale::setDefault(QLocale::c()); }
+};
+
+std::string reading(const char* text) {
+    return KTDateComponentsFormatter().stringForObjectValue(
+        *KTDateComponents::dateComponentsWithString(text));
+}
 
 KTValue decimal(const char* text) {
     return KTDecimal::fromText(text).value();
@@ -27,6 +39,7 @@ TEST(Formatters, ShowValuesByTheirRules) {
     auto status = std::make_shared<KTGPSStatusFormatter>();
     auto position = std::make_shared<KTLatLonFormatter>();
     auto focal = std::make_shared<KTFocalLengthFormatter>();
+    auto height = std::make_shared<KTDefaultHeightFormatter>();
     for (const Case& c :
          std::vector<Case>{{aperture, decimal("2.8"), "ƒ/2.8"},
                            {aperture, decimal("5.64"), "ƒ/5.6"},
@@ -58,12 +71,24 @@ TEST(Formatters, ShowValuesByTheirRules) {
                            {position, 7, "7.0 °"},
                            {differential, "1", "Differential correction"},
                            {differential, 0, "No correction"},
+                           {differential, "True", "Differential correction"},
+                           {differential, " 0", "No correction"},
+                           {differential, KTValue::null(), ""},
                            {mode, "3", "3 dimensional"},
                            {mode, 2, "2 dimensional"},
                            {mode, 9, "Undefined"},
+                           {mode, "", "Undefined"},
+                           {mode, KTValue(), ""},
+                           {status, "A", "Measurement active"},
                            {status, "V", "Measurement void"},
                            {status, "X", "Undefined"},
                            {status, KTValue::null(), ""},
+                           {status, 1, ""},
+                           {focal, "50", ""},
+                           {focal, KTDecimal::notANumber(), ""},
+                           {height, decimal("123.44"), "123.4 m"},
+                           {height, decimal("-12.5"), "-12.5 m"},
+                           {height, "12", ""},
                            {std::make_shared<KTRawKeyFormatter>(), KTValue(KTValue::List{"a", 2}), "a, 2"}})
         EXPECT_EQ(c.formatter->stringForObjectValue(c.value), c.text);
 }
@@ -74,12 +99,62 @@ TEST(Formatters, ShowDatesInTheApplicationsZoneAndReadingsAsTheyStand) {
         KTDateTimeFormatter().stringForObjectValue(KTInstantFromMilliseconds(1401616800000));
     EXPECT_NE(instant.find("12:00:00"), std::string::npos) << instant;
     KTTimeZoneManager::sharedTimeZoneManager().setTimeZone(KTTimeZone::utc());
-    auto shown = [](const char* text) {
-        return KTDateComponentsFormatter().stringForObjectValue(
-            *KTDateComponents::dateComponentsWithString(text));
-    };
-    EXPECT_NE(shown("2014:06:01 12:34:56").find("12:34:56"), std::string::npos);
-    EXPECT_EQ(shown("2014:06:01").find(':'), std::string::npos) << "no time where none is set";
-    EXPECT_EQ(shown("2014"), "2014");
+    EXPECT_NE(reading("2014:06:01 12:34:56").find("12:34:56"), std::string::npos);
+    EXPECT_EQ(reading("2014:06:01").find(':'), std::string::npos) << "no time where none is set";
+    EXPECT_EQ(reading("2014"), "2014");
     EXPECT_EQ(KTDateTimeFormatter().stringForObjectValue("2014"), "");
+}
+
+TEST(Formatters, KeepReadingsThatNoCalendarHas) {
+    EXPECT_EQ(reading("2014:02:30 10:00:00"), "2014:02:30 10:00:00");
+    EXPECT_EQ(reading("2014:06:01 12:34:60"), "2014:06:01 12:34:60");
+    KTDateComponents components;
+    components.year = components.month = INT64_MAX - 1;
+    EXPECT_NE(KTDateComponentsFormatter().stringForObjectValue(components), "");
+    EXPECT_EQ(KTDateComponentsFormatter().stringForObjectValue(KTDateComponents()), "");
+}
+
+TEST(Formatters, FollowTheUsersLocale) {
+    struct Case {
+        const char* locale;
+        const char* date;
+        const char* minutesOnly;
+        const char* month;
+        const char* bytes;
+        const char* millimetres;
+    };
+    KTDateComponents minutesOnly = *KTDateComponents::dateComponentsWithString("2014:07:04 09:05:07");
+    minutesOnly.second = KTDateComponents::kUndefined;
+    for (const Case& c :
+         {Case{"en_US", "7/4/14 9:05:07 AM", "7/4/14 9:05 AM", "Jul 2014", "1,000.0 KB", "-1234.5 mm"},
+          {"de_DE", "04.07.14 09:05:07", "04.07.14 09:05", "Juli 2014", "1.000,0 KB", "-1234,5 mm"},
+          {"fi_FI", "4.7.2014 9.05.07", "4.7.2014 9.05", "heinäk. 2014", "1\u00a0000,0 KB",
+           "\u22121234,5 mm"},
+          {"bn_BD", "৪/৭/১৪ ৯:০৫:০৭ AM", "৪/৭/১৪ ৯:০৫ AM", "জুল ২০১৪", "১,০০০.০ KB", "-১২৩৪.৫ mm"}}) {
+        SCOPED_TRACE(c.locale);
+        const UserLocale locale(c.locale);
+        EXPECT_EQ(reading("2014:07:04 09:05:07"), c.date);
+        EXPECT_EQ(KTDateComponentsFormatter().stringForObjectValue(minutesOnly), c.minutesOnly);
+        EXPECT_EQ(reading("2014:07"), c.month);
+        EXPECT_EQ(KTBytesFormatter().stringForObjectValue(999999), c.bytes);
+        EXPECT_EQ(KTFocalLengthFormatter().stringForObjectValue(decimal("-1234.5")), c.millimetres);
+    }
+}
+
+TEST(Formatters, ReadPatterns) {
+    struct Case {
+        const char* pattern;
+        const char* number;
+        const char* text;
+    };
+    for (const Case& c : {Case{"#.##", "0.5", ".5"},
+                          {"#0.##", "-0.004", "0"},
+                          {"000.0", "7.25", "007.3"},
+                          {"###,##0", "1234567", "1,234,567"},
+                          {"about #0 m", "-12.5", "-about 13 m"},
+                          {"##0.0######### °", "-33.85678901234", "-33.856789012 °"},
+                          {"no digits", "1", "1no digits"},
+                          {"", "1", "1"}})
+        EXPECT_EQ(KTNumberPatternFormatter(c.pattern).stringForObjectValue(decimal(c.number)), c.text)
+            << c.pattern;
 }

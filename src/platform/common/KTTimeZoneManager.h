@@ -1,5 +1,8 @@
 #pragma once
+#include "platform/common/KTTimeZone.h"
 #include "platform/observing/KTObservable.h"
+
+#include <mutex>
 
 /// Holds the zone in which the application shows dates. Observable under "timeZone". Any thread.
 class KTTimeZoneManager : public KTObservable {

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kFeetPerMetre = 1 / 0.3048;
+constexpr double kMetresPerFoot = 0.3048;
 constexpr double kMetresPerMile = 1609.344;
 constexpr double kMetresPerNauticalMile = 1852;
 
@@ -99,7 +99,7 @@ std::string KTUnitConverter::roundedDefaultDistanceDescriptionFromMeters(double 
         return "?";
     switch (distanceUnits()) {
     case Units::Imperial:
-        if (double feet = metres * kFeetPerMetre; std::abs(feet) < 999.5)
+        if (double feet = metres / kMetresPerFoot; std::abs(feet) < 999.5)
             return filled("%@ ft", roundedNumber(feet));
         return filled("%@ mi", roundedNumber(metres / kMetresPerMile));
     case Units::Nautical:
@@ -116,7 +116,10 @@ std::string KTUnitConverter::roundedDefaultDistanceDescriptionFromMeters(double 
 std::string KTUnitConverter::heightDescriptionFromMeters(const KTDecimal& metres) const {
     if (metres.isNaN())
         return "?";
-    if (distanceUnits() == Units::Metric)
-        return filled("%@ m", numberText(metres.rounded(1).toDouble(), metres == metres.rounded(0) ? 0 : 1));
-    return filled("%@ ft", numberText(metres.toDouble() * kFeetPerMetre, 0));
+    if (distanceUnits() == Units::Metric) {
+        const KTDecimal rounded = metres.rounded(1);
+        return filled("%@ m", numberText(rounded.toDouble(), rounded == rounded.rounded(0) ? 0 : 1));
+    }
+    const KTDecimal feet = metres / KTDecimal::fromDouble(kMetresPerFoot);
+    return filled("%@ ft", numberText(feet.rounded(0).toDouble(), 0));
 }

@@ -55,9 +55,10 @@ struct XMLStream::Expat {
     }
     std::string errorText(bool isLast) const {
         XML_Error code = XML_GetErrorCode(parser);
-        bool endsEarly = code == XML_ERROR_NO_ELEMENTS || code == XML_ERROR_UNCLOSED_TOKEN ||
-                         code == XML_ERROR_PARTIAL_CHAR || code == XML_ERROR_UNCLOSED_CDATA_SECTION;
-        if (isLast && endsEarly && hasElement)
+        bool endsEarly = code == XML_ERROR_UNCLOSED_TOKEN || code == XML_ERROR_PARTIAL_CHAR ||
+                         code == XML_ERROR_UNCLOSED_CDATA_SECTION ||
+                         (code == XML_ERROR_NO_ELEMENTS && hasElement);
+        if (isLast && endsEarly)
             return KTLocalizedString("the file ends too early");
         std::string reason = XML_ErrorString(code);
         return hasElement ? KTStringWithFormat(KTLocalizedString("the XML is broken: %@"), {reason})

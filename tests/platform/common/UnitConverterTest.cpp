@@ -46,13 +46,21 @@ TEST(UnitConverter, SaysDistancesAndHeightsInTheUsersUnits) {
                                                    {Units::Metric, 1234, "1.2 km", "1,234 m"},
                                                    {Units::Metric, 123456, "123 km", "123,456 m"},
                                                    {Units::Imperial, 25, "82 ft", "82 ft"},
+                                                   {Units::Metric, 12.04, "12 m", "12 m"},
+                                                   {Units::Metric, 0.04, "0 m", "0 m"},
+                                                   {Units::Metric, 9960, "10 km", "9,960 m"},
+                                                   {Units::Imperial, 1300, "0.8 mi", "4,265 ft"},
                                                    {Units::Imperial, 1609.344, "1 mi", "5,280 ft"},
+                                                   {Units::Nautical, 1111, "0.6 NM", "3,645 ft"},
                                                    {Units::Nautical, 25, "25 m", "82 ft"},
                                                    {Units::Nautical, 1852 * 2.5, "2.5 NM", "15,190 ft"}}) {
         converter.setDistanceUnits(units);
         EXPECT_EQ(converter.roundedDefaultDistanceDescriptionFromMeters(metres), distance) << metres;
         EXPECT_EQ(converter.heightDescriptionFromMeters(KTDecimal::fromDouble(metres)), height) << metres;
     }
-    EXPECT_EQ(announced, 9);
+    EXPECT_EQ(announced, 14);
+    EXPECT_EQ(converter.heightDescriptionFromMeters(KTDecimal::fromDouble(-0.1)), "0 ft") << "no minus zero";
+    EXPECT_EQ(converter.heightDescriptionFromMeters(KTDecimal::fromDouble(-430.5)), "-1,412 ft");
+    EXPECT_EQ(converter.heightDescriptionFromMeters(KTDecimal::notANumber()), "?");
     EXPECT_EQ(converter.roundedDefaultDistanceDescriptionFromMeters(std::nan("")), "?");
 }

@@ -58,8 +58,9 @@ TEST(SettingsTableTest, ReadsAssignments) {
         EXPECT_EQ(result.value, each.expected) << each.text << ": " << result.error;
         EXPECT_EQ(result.error.empty(), !each.expected.isAbsent()) << each.text;
     }
-    EXPECT_NE(KTSettingsTable::parseAssignment("distanceUnits=parsecs").error.find("metric, imperial, nautical"),
-              std::string::npos);
+    EXPECT_NE(
+        KTSettingsTable::parseAssignment("distanceUnits=parsecs").error.find("metric, imperial, nautical"),
+        std::string::npos);
 }
 
 } // namespace

@@ -26,11 +26,12 @@ void writeMillionPoints(const std::filesystem::path& file) {
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<gpx version=\"1.1\" creator=\"Waymark\" "
            "xmlns=\"http://www.topografix.com/GPX/1/1\">\n<trk><name>Million</name><trkseg>\n";
     std::array<char, 160> line;
-    for (int i = 0; i < kPoints; ++i) {
+    for (std::int64_t i = 0; i < kPoints; ++i) {
         std::snprintf(line.data(), line.size(),
                       "<trkpt lat=\"%.7f\" lon=\"%.7f\"><ele>%.1f</ele><time>%s</time></trkpt>\n",
-                      46 + i * 1.3e-6, 14 + (i * 7919 % 10007) * 1e-6, 300 + i % 977 * 0.7,
-                      KTISO8601Text(KTInstantFromMilliseconds(kStart + i * std::int64_t{1000})).c_str());
+                      46 + static_cast<double>(i) * 1.3e-6, 14 + static_cast<double>(i * 7919 % 10007) * 1e-6,
+                      300 + static_cast<double>(i % 977) * 0.7,
+                      KTISO8601Text(KTInstantFromMilliseconds(kStart + i * 1000)).c_str());
         out << line.data();
     }
     out << "</trkseg></trk></gpx>\n";

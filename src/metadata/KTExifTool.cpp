@@ -64,6 +64,14 @@ KTExifTool::KTExifTool() {
 
 KTPhotoOperation KTExifTool::extractAllKeysIntoDictionary(KTTagDictionary& dictionary,
                                                           const std::filesystem::path& fromFile) {
+    std::vector<KTTagDictionary::Entry> entries(dictionary.begin(), dictionary.end());
+    KTPhotoOperation operation = extractAllTags(entries, fromFile);
+    dictionary = KTTagDictionary(std::move(entries));
+    return operation;
+}
+
+KTPhotoOperation KTExifTool::extractAllTags(std::vector<KTTagDictionary::Entry>& tags,
+                                            const std::filesystem::path& fromFile) {
     std::lock_guard guard(lock);
     evaluate("$fetchTool = new Image::ExifTool;");
     evaluate("$fetchTool->Options(FixBase=>'', IgnoreMinorErrors=>1, Composite=>1, Duplicates => 1, "
@@ -80,14 +88,12 @@ KTPhotoOperation KTExifTool::extractAllKeysIntoDictionary(KTTagDictionary& dicti
     if (error.isSomething())
         operation.failureDescription = error.description();
 
-    std::vector<KTTagDictionary::Entry> entries(dictionary.begin(), dictionary.end());
     std::string key;
     interpreter.evaluateTriples("waymarkTags($fetchTool, $imageInfo);",
                                 [&](std::string_view group, std::string_view name, KTValue value) {
                                     key.assign(group).append(":").append(name);
-                                    entries.push_back({KTTagKey(key), std::move(value)});
+                                    tags.push_back({KTTagKey(key), std::move(value)});
                                 });
-    dictionary = KTTagDictionary(std::move(entries));
     evaluate("undef $fetchTool;");
     return operation;
 }

@@ -29,6 +29,11 @@ public:
     KTPhotoOperation extractAllKeysIntoDictionary(KTTagDictionary& dictionary,
                                                   const std::filesystem::path& fromFile);
 
+    /// The same with every tag in ExifTool's order, so that of tags that share a key (in the main directory
+    /// and in that of the thumbnail) each is there.
+    KTPhotoOperation extractAllTags(std::vector<KTTagDictionary::Entry>& tags,
+                                    const std::filesystem::path& fromFile);
+
     /// Writes @p fromSourceFile with @p changes applied as @p toFile, which must not exist unless it is the
     /// source (then it is rewritten in place). A destination with the extension "xmp" other than the source
     /// becomes a new sidecar holding every tag of the source that XMP can hold, overridden by the changes. A

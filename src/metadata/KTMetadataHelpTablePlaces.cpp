@@ -17,7 +17,7 @@ constexpr KTMetadataHelpRow kRows[] = {
     {"altitude",
      "Height of the camera above sea level, in the unit chosen for heights; negative below sea level. The "
      "file holds it in meters.",
-     {"436 m", "1430 ft"},
+     {"436 m", "1,430 ft"},
      "EXIF: GPSAltitude & GPSAltitudeRef"},
     {"imageDirection",
      "Direction in which the camera pointed, in degrees clockwise from true north: 0 is north, 90 east, 180 "

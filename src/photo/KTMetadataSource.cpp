@@ -16,10 +16,13 @@ KTMetadataProperties metadataPropertiesOf(const KTTagDictionary& tags) {
     return properties;
 }
 
-KTPhotoOperation KTMetadataSource::read(KTExifTool& tool, const std::filesystem::path& file) {
-    KTTagDictionary tags;
-    KTPhotoOperation operation = tool.extractAllKeysIntoDictionary(tags, file);
-    saved = std::move(tags);
+KTPhotoOperation KTMetadataSource::read(KTExifTool& tool, const std::filesystem::path& file,
+                                        std::vector<KTTagDictionary::Entry>* allTags) {
+    std::vector<KTTagDictionary::Entry> tags;
+    KTPhotoOperation operation = tool.extractAllTags(tags, file);
+    if (allTags != nullptr)
+        *allTags = tags;
+    saved = KTTagDictionary(std::move(tags));
     properties = metadataPropertiesOf(saved);
     return operation;
 }

@@ -9,8 +9,10 @@ struct KTMetadataSource {
     KTTagDictionary changes;
     KTMetadataProperties properties;
 
-    /// Replaces `saved` and `properties` by what @p file holds. On failure they hold whatever was found.
-    KTPhotoOperation read(KTExifTool& tool, const std::filesystem::path& file);
+    /// Replaces `saved` and `properties` by what @p file holds. On failure they hold whatever was found. @p
+    /// allTags, where given, receives every tag, also of those that share a key.
+    KTPhotoOperation read(KTExifTool& tool, const std::filesystem::path& file,
+                          std::vector<KTTagDictionary::Entry>* allTags = nullptr);
 
     KTValue valueForField(const KTMetadataField& field) const {
         return field.valueFromExifToolDictionary(saved, properties);

@@ -127,16 +127,17 @@ bool KTPhoto::writeAndReplace(KTMetadataSource& source, const KTTagDictionary& c
 
     // One read proves the new file before it takes the old one's place, and tells what it holds now.
     KTMetadataSource asWritten;
+    std::vector<KTTagDictionary::Entry> tags;
     KTTagDictionary pending;
     if (operation.operationDidSucceed) {
-        KTPhotoOperation proof = asWritten.read(exifTool, temporary);
+        KTPhotoOperation proof = asWritten.read(exifTool, temporary, &tags);
         if (!proof.operationDidSucceed) {
             operation.operationDidSucceed = false;
             operation.failureReason = 1;
             operation.failureDescription = KTStringWithFormat(
                 KTLocalizedString("The new file could not be read back: %@"), {proof.resultDescription()});
         } else {
-            pending = valuesNotWritten(written, asWritten.saved);
+            pending = valuesNotWritten(written, tags);
             if (!pending.empty())
                 addWarning(operation, pending);
         }

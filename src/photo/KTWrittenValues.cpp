@@ -23,21 +23,28 @@ std::vector<std::string> textsIn(const KTValue& value) {
     return value.list() ? value.texts() : std::vector<std::string>{value.description()};
 }
 
+/// Formats pad or cut at the end; an EXIF date comes back without the zone that it cannot hold, an IPTC time
+/// with the zone that it must have.
+bool isSameText(std::string_view written, std::string_view read) {
+    constexpr std::size_t dateLength = 19, timeLength = 8, zoneLength = 6;
+    written = KTTrimmed(written);
+    read = KTTrimmed(read);
+    if (written == read)
+        return true;
+    if (written.size() > dateLength && read == written.substr(0, dateLength))
+        return KTDateComponents::dateComponentsWithString(written).has_value();
+    return written.size() == timeLength && read.size() == timeLength + zoneLength &&
+           read.starts_with(written) && written[2] == ':';
+}
+
 bool isAsWritten(const KTValue& written, const KTValue& read) {
-    if (written.isNull() || (written.list() && written.list()->empty()))
-        return !read.isSomething();
     if (written == read)
         return true;
     auto left = numberIn(written), right = numberIn(read);
     if (left && right)
         return isSameNumber(*left, *right);
     const std::vector<std::string> writtenTexts = textsIn(written), readTexts = textsIn(read);
-    return std::ranges::equal(writtenTexts, readTexts, [](const std::string& a, const std::string& b) {
-        // Formats pad or cut at the end, and dates come back without the zone that an EXIF date cannot hold.
-        std::string_view x = KTTrimmed(a), y = KTTrimmed(b);
-        return x == y ||
-               (x.size() > 19 && y == x.substr(0, 19) && KTDateComponents::dateComponentsWithString(x));
-    });
+    return std::ranges::equal(writtenTexts, readTexts, isSameText);
 }
 
 } // namespace
@@ -56,13 +63,19 @@ KTTagDictionary adaptedToLanguageAlternatives(const KTTagDictionary& changes, co
     return result;
 }
 
-KTTagDictionary valuesNotWritten(const KTTagDictionary& changes, const KTTagDictionary& asRead) {
+KTTagDictionary valuesNotWritten(const KTTagDictionary& changes,
+                                 const std::vector<KTTagDictionary::Entry>& asRead) {
     KTTagDictionary result;
     for (const auto& [key, value] : changes) {
         std::string plain = key.text();
         if (plain.ends_with(kDefaultLanguage))
             plain.resize(plain.size() - kDefaultLanguage.size());
-        if (!isAsWritten(value, asRead.valueForKey(plain)))
+        const KTTagKey plainKey(plain);
+        const bool deletes = value.isNull() || (value.list() && value.list()->empty());
+        const bool stands = std::ranges::any_of(asRead, [&](const KTTagDictionary::Entry& tag) {
+            return tag.key == plainKey && (deletes || isAsWritten(value, tag.value));
+        });
+        if (stands == deletes)
             result.set(plain, value);
     }
     return result;

@@ -8,10 +8,11 @@
 /// languages.
 KTTagDictionary adaptedToLanguageAlternatives(const KTTagDictionary& changes, const KTTagDictionary& saved);
 
-/// The entries of @p changes that @p asRead does not show: refused by the library, or changed on the way (a
-/// character that the format cannot hold). Numbers count as equal within the precision of the formats'
-/// fractions.
-KTTagDictionary valuesNotWritten(const KTTagDictionary& changes, const KTTagDictionary& asRead);
+/// The entries of @p changes that none of the tags @p asRead shows: refused by the library, or changed on the
+/// way (a character that the format cannot hold). Several tags may share a key; one that holds the value is
+/// enough. Numbers count as equal within the precision of the formats' fractions.
+KTTagDictionary valuesNotWritten(const KTTagDictionary& changes,
+                                 const std::vector<KTTagDictionary::Entry>& asRead);
 
 /// Adds to @p operation a warning that names the keys of @p values.
 void addWarning(KTPhotoOperation& operation, const KTTagDictionary& values);

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2154
 # Sourced by ./run and ./test: installs what is missing, configures, builds. Expects $project, the project's folder.
 
 say() { printf '%s\n' "waymark: $*" >&2; }

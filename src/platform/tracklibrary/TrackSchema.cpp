@@ -80,7 +80,6 @@ void create(SQLite::Database& database) {
 
 void prepareTrackSchema(SQLite::Database& database) {
     if (isNew(database)) {
-        database.exec("PRAGMA page_size = 8192");
         database.exec("PRAGMA journal_mode = WAL");
         create(database);
     }

@@ -2,32 +2,9 @@
 
 #include "platform/common/KTText.h"
 #include "platform/tracklibrary/TrackRemoval.h"
+#include "platform/tracklibrary/TrackValueBinding.h"
 
 namespace {
-
-void bindValue(SQLite::Statement& statement, int index, const std::optional<KTInstant>& date) {
-    if (date)
-        statement.bind(index, static_cast<std::int64_t>(date->time_since_epoch().count()));
-    else
-        statement.bind(index);
-}
-
-void bindValue(SQLite::Statement& statement, int index, const TrackNumber& number) {
-    if (number.longDigits())
-        statement.bind(index, *number.longDigits());
-    else if (!number.isAbsent())
-        statement.bind(index, number.toDouble());
-    else
-        statement.bind(index);
-}
-
-/// Date, latitude, longitude and elevation, from @p index on.
-void bindValue(SQLite::Statement& statement, int index, const TrackFilePoint& point) {
-    bindValue(statement, index, point.date);
-    bindValue(statement, index + 1, point.latitude);
-    bindValue(statement, index + 2, point.longitude);
-    bindValue(statement, index + 3, point.elevation);
-}
 
 void bindHash(SQLite::Statement& statement, int index, const std::string& hash) {
     statement.bind(index, static_cast<const void*>(hash.data()), static_cast<int>(hash.size()));
@@ -36,23 +13,19 @@ void bindHash(SQLite::Statement& statement, int index, const std::string& hash) 
 } // namespace
 
 TrackStoreImport::TrackStoreImport(TrackDatabase& target, const std::filesystem::path& path)
-    : database(target), insertPoint(target.statement("INSERT INTO point VALUES(?, ?, ?, ?, ?)")),
-      fileName(KTValidUTF8(path.filename().string())) {
+    : database(target), points(target), fileName(KTValidUTF8(path.filename().string())) {
     auto insert = database.statement("INSERT INTO source(path, imported) VALUES(?, ?)");
     insert->bind(1, KTValidUTF8(path.string()));
     bindValue(*insert, 2, KTInstantNow());
     insert->exec();
     source = database.lastRowID();
-    auto lastPoint = database.statement("SELECT COALESCE(MAX(id), 0) FROM point");
-    lastPoint->executeStep();
-    nextPoint = lastPoint->getColumn(0).getInt64() + 1;
 }
 
 void TrackStoreImport::beginTrack(KTTrack::Kind kind) {
     track = {};
     track.kind = kind;
     currentTrack.reset();
-    segmentStart = nextPoint;
+    segmentStart = points.nextID();
 }
 
 void TrackStoreImport::beginSegment() {
@@ -60,15 +33,15 @@ void TrackStoreImport::beginSegment() {
 }
 
 void TrackStoreImport::endSegment() {
-    if (currentTrack && nextPoint > segmentStart) {
+    if (currentTrack && points.nextID() > segmentStart) {
         auto insert =
             database.statement("INSERT INTO segment(track, first_point, last_point) VALUES(?, ?, ?)");
         insert->bind(1, *currentTrack);
         insert->bind(2, segmentStart);
-        insert->bind(3, nextPoint - 1);
+        insert->bind(3, points.nextID() - 1);
         insert->exec();
     }
-    segmentStart = nextPoint;
+    segmentStart = points.nextID();
 }
 
 std::int64_t TrackStoreImport::insertTrack(KTTrack::Kind kind) {
@@ -90,10 +63,7 @@ void TrackStoreImport::addPoint(TrackFilePoint&& point) {
         track.firstDate = std::min(track.firstDate.value_or(*point.date), *point.date);
         track.lastDate = std::max(track.lastDate.value_or(*point.date), *point.date);
     }
-    insertPoint->bind(1, nextPoint++);
-    bindValue(*insertPoint, 2, point);
-    insertPoint->exec();
-    insertPoint->reset();
+    points.add(std::move(point));
 }
 
 void TrackStoreImport::endTrack(std::string name) {
@@ -133,6 +103,7 @@ void TrackStoreImport::addWaypoint(TrackFileWaypoint&& waypoint) {
 bool TrackStoreImport::finish(std::int64_t size, const std::string& hash) {
     if (imported.trackIDs.empty())
         return false;
+    points.flush();
     if (auto earlier = trackSourceWithHash(database, hash))
         removeSource(database, earlier->source);
     auto updateTrack = database.statement("UPDATE track SET waypoints = ? WHERE id = ?");

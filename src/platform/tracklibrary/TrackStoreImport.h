@@ -2,6 +2,7 @@
 #include "platform/tracklibrary/KTTrackImportResult.h"
 #include "platform/tracklibrary/TrackDatabase.h"
 #include "platform/tracklibrary/TrackFileSink.h"
+#include "platform/tracklibrary/TrackPointInserter.h"
 
 /// Writes one track file into the store, inside a transaction of the caller's. Every function throws
 /// SQLite::Exception; the caller then rolls back.
@@ -27,11 +28,10 @@ private:
     void endSegment();
 
     TrackDatabase& database;
-    TrackDatabase::Borrowed insertPoint;
+    TrackPointInserter points;
     std::string fileName;
     std::int64_t source = 0;
-    std::int64_t nextPoint = 1;
-    std::int64_t segmentStart = 1;
+    std::int64_t segmentStart = 0;            // number of its first point
     std::int64_t waypointsTrack = 0;          // the listed entry of the waypoints, 0 before the first
     std::optional<std::int64_t> currentTrack; // inserted with its first point
     KTTrack track;                            // kind and counts of the current one

@@ -1,5 +1,7 @@
 #include "metadata/KTExifTool.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* kGroups[] = {"Composite",  "EXIF",      "ICC_Profile", "IPTC",

@@ -4,6 +4,8 @@
 #include "platform/tracklibrary/TrackFileSink.h"
 #include "platform/tracklibrary/XMLStream.h"
 
+#include <filesystem>
+
 /// What reading a whole track file gave beside its points.
 struct TrackFileContent {
     std::optional<TrackFileProblem> problem;

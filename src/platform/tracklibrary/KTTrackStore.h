@@ -5,6 +5,8 @@
 #include "platform/tracklibrary/XMLStream.h"
 
 #include <filesystem>
+#include <functional>
+#include <memory>
 
 /// What reading a whole track file gave beside its points.
 struct TrackFileContent {

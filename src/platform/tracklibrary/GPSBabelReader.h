@@ -1,8 +1,9 @@
 #pragma once
+#include "platform/tracklibrary/TrackFileProblem.h"
 #include "platform/tracklibrary/TrackFileSink.h"
-#include "platform/tracklibrary/XMLStream.h"
 
 #include <filesystem>
+#include <optional>
 
 /// Reads track files of other kinds by having the program gpsbabel turn them into GPX, which streams into a
 /// sink. No shell is involved; the program gets two minutes of computing time and 4 GB of memory.

@@ -1,7 +1,8 @@
 #pragma once
-#include "platform/tracklibrary/XMLStream.h"
+#include "platform/tracklibrary/TrackFileProblem.h"
 
 #include <filesystem>
+#include <optional>
 
 /// Unpacks the main KML file of the KMZ archive @p archive (doc.kml, else its first .kml) to the new file @p
 /// target. Returns a problem when the archive is damaged or holds none, when it has more than 10,000 members,

@@ -1,19 +1,12 @@
 #pragma once
 #include "platform/tracklibrary/KTTrack.h"
 #include "platform/tracklibrary/KTTrackImportResult.h"
+#include "platform/tracklibrary/TrackFileContent.h"
 #include "platform/tracklibrary/TrackFileSink.h"
-#include "platform/tracklibrary/XMLStream.h"
 
 #include <filesystem>
 #include <functional>
 #include <memory>
-
-/// What reading a whole track file gave beside its points.
-struct TrackFileContent {
-    std::optional<TrackFileProblem> problem;
-    std::string hash;      ///< BLAKE2b-256 of the file's bytes
-    std::int64_t size = 0; ///< in bytes
-};
 
 /// The tracks, routes and waypoints of a library, in one SQLite file. Every function may be called on any
 /// thread and throws nothing but std::bad_alloc.

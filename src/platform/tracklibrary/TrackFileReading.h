@@ -1,5 +1,8 @@
 #pragma once
-#include "platform/tracklibrary/KTTrackStore.h"
+#include "platform/tracklibrary/TrackFileContent.h"
+#include "platform/tracklibrary/TrackFileSink.h"
+
+#include <filesystem>
 
 /// Reads the track file @p file of any supported kind into @p sink, on the calling thread, and hashes it.
 /// Stops early when the sink is closed. Problems, an unsupported kind among them, come back in the result.

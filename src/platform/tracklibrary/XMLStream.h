@@ -1,15 +1,9 @@
 #pragma once
-#include <cstdint>
+#include "platform/tracklibrary/TrackFileProblem.h"
+
 #include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
-
-/// What is wrong with a file that was read, and where.
-struct TrackFileProblem {
-    std::int64_t line = 0; ///< counted from 1; 0 when no line is to blame
-    std::string text;      ///< for users, without the file's name
-};
 
 class XMLStreamHandler {
 public:

@@ -148,6 +148,7 @@ TEST_F(KTTrackManagerTest, AnExportReadsBackAsTheSame) {
 }
 
 TEST_F(KTTrackManagerTest, RefusesWhatIsNoTrackFileAndAddsNothing) {
+    SKIP_UNDER_THREAD_SANITIZER();
     std::filesystem::create_directory(folder / "folder.gpx");
     auto broken = gpxTrack(trackPoint("1", "2", "2014-06-01T10:00:00Z") + trackPoint("100", "2", ""));
     std::string kmz = folder / "noise.kmz";
@@ -178,6 +179,7 @@ TEST_F(KTTrackManagerTest, RefusesWhatIsNoTrackFileAndAddsNothing) {
 }
 
 TEST_F(KTTrackManagerTest, ReadsOtherKindsOfTrackFiles) {
+    SKIP_UNDER_THREAD_SANITIZER();
     const std::string nmea = "$GPRMC,100000.000,A,4603.0000,N,01430.0000,E,0.0,0.0,010614,,*07\n"
                              "$GPRMC,100010.000,A,4603.6000,N,01436.0000,E,0.0,0.0,010614,,*06\n";
     const std::string tcx =
@@ -218,6 +220,7 @@ TEST_F(KTTrackManagerTest, ReadsOtherKindsOfTrackFiles) {
 }
 
 TEST_F(KTTrackManagerTest, AMissingOrEndlessConverterIsAClearError) {
+    SKIP_UNDER_THREAD_SANITIZER();
     CollectingSink sink;
     GPSBabelReader missing{.program = "/nowhere/gpsbabel"};
     EXPECT_NE(missing.read("a.kml", "kml", sink)->text.find("apt install gpsbabel"), std::string::npos);

@@ -5,6 +5,14 @@
 
 #include <gtest/gtest.h>
 
+/// Qt starts programs by a clone that shares memory, after which ThreadSanitizer takes this process for a
+/// forked one.
+#ifdef __SANITIZE_THREAD__
+#define SKIP_UNDER_THREAD_SANITIZER() GTEST_SKIP()
+#else
+#define SKIP_UNDER_THREAD_SANITIZER() static_cast<void>(0)
+#endif
+
 inline KTInstant instant(std::int64_t milliseconds) {
     return KTInstantFromMilliseconds(milliseconds);
 }

@@ -83,7 +83,10 @@ TEST(ExifTool, ReadsTheSameByOneWalkAsTagByTag) {
         auto file = makePhoto(folder, name, written);
         KTTagDictionary walked = tagsOf(file);
         EXPECT_GT(walked.size(), 30U);
-        EXPECT_EQ(walked, readByStatements(file)) << name;
+        KTTagDictionary reference = readByStatements(file);
+        for (KTTagDictionary* tags : {&walked, &reference})
+            tags->remove("File:FileAccessDate"); // reading the file may move it
+        EXPECT_EQ(walked, reference) << name;
         EXPECT_EQ(walked.valueForKey("XMP:Title"), KTValue("Zürich | „quoted“"));
         EXPECT_TRUE(walked.find("Composite:Aperture")) << "composite tags are read";
     }

@@ -28,15 +28,16 @@ void KTPhoto::saveWithBackupToFolder(const std::optional<fs::path>& backupFolder
     const KTValue now = KTInstantNow();
     const KTValue metadataDate = valueForKey("metadataDate"), modifyDate = valueForKey("modifyDate");
     setValueForKey("metadataDate", now);
-    bool saved = true;
+    bool imageWritten = false;
     if (writesImage) {
         setValueForKey("modifyDate", now);
         recordDivergentIPTCFields();
-        saved = saveImage(backupFolder);
+        imageWritten = saveImage(backupFolder);
     }
-    if (saved && where.xmpSidecar && !sidecar.changes.empty())
-        saved = saveSidecar(backupFolder);
-    if (!saved) { // nothing was stamped on disk, so nothing may look stamped
+    const bool mayGoOn = imageWritten || !writesImage;
+    const bool sidecarWritten =
+        mayGoOn && where.xmpSidecar && !sidecar.changes.empty() && saveSidecar(backupFolder);
+    if (!imageWritten && !sidecarWritten) { // nothing was stamped on disk, so nothing may look stamped
         setValueForKey("metadataDate", metadataDate);
         if (writesImage)
             setValueForKey("modifyDate", modifyDate);

@@ -174,6 +174,21 @@ TEST_F(Photo, AFailedSaveLeavesTheFileAndTheChanges) {
     EXPECT_TRUE(leftNothingBehind(folder, 1));
 }
 
+TEST_F(Photo, WhenOnlyTheSidecarFailsTheImageCountsAsWrittenAndTheSidecarStaysPending) {
+    setStyle(3);
+    auto file = makePhoto(folder, "a.jpg");
+    auto sidecar = folder.file("a.xmp", std::string_view("\1\2\3\4\0\6", 6));
+    auto photo = open(file);
+    photo->setValueForKey("title", "new");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Failure);
+    EXPECT_TRUE(photo->imageSource().changes.empty());
+    EXPECT_TRUE(photo->sidecarSource().changes.find("XMP:Title"));
+    EXPECT_TRUE(photo->valueForKey("metadataDate").isSomething()) << "the image holds the stamp";
+    EXPECT_EQ(tagsOf(file).valueForKey("XMP:Title"), KTValue("new"));
+    EXPECT_EQ(contentOf(sidecar).size(), 6U);
+}
+
 TEST_F(Photo, KeepsBackupsAndModificationDates) {
     KTUserDefaults::standardUserDefaults().setValue("defaultShouldPreserveModificationDate", true);
     auto file = makePhoto(folder, "a.jpg");

@@ -14,6 +14,8 @@ if(CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
 endif()
 
 if(WAYMARK_SANITIZE)
+    # GCC 12 sees uninitialised members inside std::regex once the sanitizers have changed its code.
+    target_compile_options(waymark_settings INTERFACE -Wno-maybe-uninitialized)
     add_compile_options(-fsanitize=${WAYMARK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all -O1)
     add_link_options(-fsanitize=${WAYMARK_SANITIZE})
 endif()

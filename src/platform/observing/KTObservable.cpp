@@ -1,5 +1,7 @@
 #include "platform/observing/KTObservable.h"
 
+#include "platform/concurrency/KTCallContext.h"
+
 struct KTObserverList {
     struct Entry {
         std::uint64_t id;
@@ -54,6 +56,7 @@ void KTObservable::announce(const KTChange& change) {
             return;
         snapshot = observers->entries;
     }
+    const KTCallout callout;
     for (const auto& entry : snapshot)
         (*entry.handler)(change);
 }

@@ -1,0 +1,24 @@
+#include "platform/concurrency/KTLatch.h"
+
+#include "platform/concurrency/KTMainThread.h"
+
+void KTLatch::signal() {
+    {
+        std::lock_guard guard(mutex);
+        isSignalled = true;
+        happened.notify_all();
+    }
+    KTMainThread::wake(); // the latch may be gone by now
+}
+
+bool KTLatch::hasHappened() {
+    std::lock_guard guard(mutex);
+    return isSignalled;
+}
+
+void KTLatch::wait() {
+    if (KTMainThread::isCurrent())
+        return KTMainThread::serveCallsUntil([this] { return hasHappened(); });
+    std::unique_lock lock(mutex);
+    happened.wait(lock, [this] { return isSignalled; });
+}

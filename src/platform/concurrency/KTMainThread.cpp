@@ -1,0 +1,191 @@
+#include "platform/concurrency/KTMainThread.h"
+
+#include "platform/concurrency/KTCallContext.h"
+#include "platform/concurrency/KTLatch.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <cassert>
+#include <list>
+#include <unistd.h>
+
+namespace {
+
+/// A call that its caller waits for.
+struct WaitingCall {
+    const std::function<void()>* call;
+    KTCallContext context; // of the caller, whose marks stay alive as long as it waits
+    KTLatch ended;
+    bool wasRun = false;
+};
+
+/// The calls that are meant for the main thread.
+class MainCalls {
+public:
+    static MainCalls& shared() {
+        static MainCalls* calls = new MainCalls; // used until the last static object is gone
+        return *calls;
+    }
+
+    bool performAndWait(const std::function<void()>& call);
+    void perform(std::function<void()> call);
+    void serveUntil(const std::function<bool()>& isDone);
+    void serveFromEventLoop();
+    void wake();
+    void close();
+
+private:
+    class Receiver : public QObject {
+    public:
+        bool event(QEvent* event) override;
+    };
+
+    void wakeEventLoop(); // the mutex must be held
+    static void run(WaitingCall& call);
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::list<WaitingCall*> waiting;
+    std::list<std::function<void()>> posted;
+    Receiver* receiver = nullptr;
+    bool eventIsPosted = false;
+    bool isClosed = false;
+};
+
+bool MainCalls::Receiver::event(QEvent* event) {
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    shared().serveFromEventLoop();
+    return true;
+}
+
+void MainCalls::wakeEventLoop() {
+    changed.notify_all();
+    QCoreApplication* application = QCoreApplication::instance();
+    if (application == nullptr || eventIsPosted)
+        return;
+    if (receiver == nullptr) {
+        receiver = new Receiver; // outlives the application
+        receiver->moveToThread(application->thread());
+    }
+    eventIsPosted = true;
+    QCoreApplication::postEvent(receiver, new QEvent(QEvent::User));
+}
+
+void MainCalls::run(WaitingCall& call) {
+    KTCallContext& context = KTCallContext::current();
+    const KTCallContext own = std::exchange(context, call.context);
+    {
+        KTCallout callout;
+        (*call.call)();
+    }
+    context = own;
+    call.wasRun = true;
+    call.ended.signal();
+}
+
+bool MainCalls::performAndWait(const std::function<void()>& call) {
+    WaitingCall entry{&call, KTCallContext::current(), {}, false};
+    {
+        std::lock_guard guard(mutex);
+        if (isClosed)
+            return false;
+        waiting.push_back(&entry);
+        wakeEventLoop();
+    }
+    entry.ended.wait();
+    return entry.wasRun;
+}
+
+void MainCalls::perform(std::function<void()> call) {
+    std::lock_guard guard(mutex);
+    if (isClosed)
+        return;
+    posted.push_back(std::move(call));
+    wakeEventLoop();
+}
+
+void MainCalls::serveUntil(const std::function<bool()>& isDone) {
+    std::unique_lock lock(mutex);
+    for (;;) {
+        if (isDone())
+            return;
+        if (waiting.empty()) {
+            changed.wait(lock);
+            continue;
+        }
+        WaitingCall* call = waiting.front();
+        waiting.pop_front();
+        lock.unlock();
+        run(*call);
+        lock.lock();
+    }
+}
+
+void MainCalls::serveFromEventLoop() {
+    std::unique_lock lock(mutex);
+    eventIsPosted = false;
+    // What is posted meanwhile comes with an event of its own, so that the loop gets its turn.
+    for (std::size_t count = posted.size(); !waiting.empty() || (count > 0 && !posted.empty());) {
+        if (!waiting.empty()) {
+            WaitingCall* call = waiting.front();
+            waiting.pop_front();
+            lock.unlock();
+            run(*call);
+        } else {
+            std::function<void()> call = std::move(posted.front());
+            posted.pop_front();
+            --count;
+            lock.unlock();
+            call();
+        }
+        lock.lock();
+    }
+}
+
+void MainCalls::wake() {
+    std::lock_guard guard(mutex);
+    changed.notify_all();
+}
+
+void MainCalls::close() {
+    std::list<WaitingCall*> cancelled;
+    {
+        std::lock_guard guard(mutex);
+        isClosed = true;
+        cancelled.swap(waiting);
+        posted.clear();
+    }
+    for (WaitingCall* call : cancelled)
+        call->ended.signal();
+}
+
+} // namespace
+
+bool KTMainThread::isCurrent() {
+    return ::gettid() == ::getpid();
+}
+
+void KTMainThread::close() {
+    MainCalls::shared().close();
+}
+
+void KTMainThread::serveCallsUntil(const std::function<bool()>& isDone) {
+    assert(isCurrent());
+    MainCalls::shared().serveUntil(isDone);
+}
+
+void KTMainThread::wake() {
+    MainCalls::shared().wake();
+}
+
+bool KTPerformOnMainThreadAndWait(const std::function<void()>& call) {
+    if (!KTMainThread::isCurrent())
+        return MainCalls::shared().performAndWait(call);
+    call();
+    return true;
+}
+
+void KTPerformOnMainThread(std::function<void()> call) {
+    MainCalls::shared().perform(std::move(call));
+}

@@ -1,0 +1,87 @@
+#include "platform/concurrency/KTOperationQueue.h"
+
+#include "platform/concurrency/KTThreadPool.h"
+
+namespace {
+
+constexpr std::string_view kOperationCount = "operationCount";
+
+} // namespace
+
+KTOperationQueue::~KTOperationQueue() {
+    cancelAllOperations();
+    waitUntilAllOperationsAreFinished();
+}
+
+void KTOperationQueue::addOperation(std::shared_ptr<KTOperation> operation) {
+    addOperations({std::move(operation)});
+}
+
+void KTOperationQueue::addOperationWithBlock(std::function<void()> block) {
+    addOperation(std::make_shared<KTOperation>(std::move(block)));
+}
+
+void KTOperationQueue::addOperations(std::vector<std::shared_ptr<KTOperation>> operations) {
+    if (operations.empty())
+        return;
+    willChange(kOperationCount);
+    {
+        std::lock_guard guard(mutex);
+        std::ranges::move(operations, std::back_inserter(pending));
+        startWorkers();
+    }
+    didChange(kOperationCount);
+}
+
+void KTOperationQueue::startWorkers() {
+    for (; workers < width && workers < running.size() + pending.size(); ++workers)
+        KTRunOnThreadPool([this] { work(); });
+}
+
+void KTOperationQueue::work() {
+    std::unique_lock lock(mutex);
+    while (!pending.empty()) {
+        auto place = running.insert(running.end(), std::move(pending.front()));
+        pending.pop_front();
+        KTOperation& operation = **place;
+        lock.unlock();
+        operation.start();
+        willChange(kOperationCount);
+        lock.lock();
+        const std::shared_ptr<KTOperation> ended = std::move(*place); // dropped outside the lock
+        running.erase(place);
+        lock.unlock();
+        didChange(kOperationCount);
+        lock.lock();
+    }
+    std::vector<KTLatch*> done;
+    if (--workers == 0)
+        done.swap(waits);
+    lock.unlock();
+    // The queue may be gone as soon as a wait has returned.
+    for (KTLatch* wait : done)
+        wait->signal();
+}
+
+void KTOperationQueue::cancelAllOperations() {
+    std::lock_guard guard(mutex);
+    for (const auto* operations : {&running, &pending})
+        for (const auto& operation : *operations)
+            operation->cancel();
+}
+
+std::size_t KTOperationQueue::operationCount() const {
+    std::lock_guard guard(mutex);
+    return pending.size() + running.size();
+}
+
+void KTOperationQueue::waitUntilAllOperationsAreFinished() {
+    KTLatch ended;
+    {
+        std::lock_guard guard(mutex);
+        if (workers == 0 && pending.empty())
+            return;
+        waits.push_back(&ended);
+    }
+    ended.wait();
+}

@@ -8,6 +8,8 @@ public:
     explicit KTCalendar(KTTimeZone zone, KTCalendarIdentifier kind = KTCalendarIdentifier::Gregorian)
         : timeZone(std::move(zone)), identifier(kind) {}
 
+    void setTimeZone(KTTimeZone zone) { timeZone = std::move(zone); }
+
     /// The instant of @p components in this calendar's zone (the components' own zone is not looked at).
     /// Unset parts count as the first month or day, or as 0; nothing without a year.
     std::optional<KTInstant> dateFromComponents(const KTDateComponents& components) const;

@@ -4,6 +4,7 @@
 
 KTValue::KTValue(KTDateComponents components)
     : content(std::make_shared<const KTDateComponents>(std::move(components))) {}
+KTValue::KTValue(KTTimeZone zone) : content(std::make_shared<const KTTimeZone>(std::move(zone))) {}
 KTValue::KTValue(List list) : content(std::make_shared<const List>(std::move(list))) {}
 KTValue::KTValue(Dictionary dictionary)
     : content(std::make_shared<const Dictionary>(std::move(dictionary))) {}
@@ -14,6 +15,11 @@ KTValue KTValue::listOfTexts(const std::vector<std::string>& texts) {
 
 const KTDateComponents* KTValue::components() const {
     auto shared = std::get_if<Shared<KTDateComponents>>(&content);
+    return shared ? shared->get() : nullptr;
+}
+
+const KTTimeZone* KTValue::timeZone() const {
+    auto shared = std::get_if<Shared<KTTimeZone>>(&content);
     return shared ? shared->get() : nullptr;
 }
 
@@ -54,6 +60,8 @@ std::string KTValue::description() const {
         return KTISO8601Text(*value);
     if (auto value = components())
         return value->xmpString().value_or("");
+    if (auto value = timeZone())
+        return value->name();
     if (list())
         return KTJoin(texts(), ", ");
     if (auto entries = dictionary()) {
@@ -72,6 +80,8 @@ bool KTValue::operator==(const KTValue& other) const {
         return false;
     if (auto value = components())
         return *value == *other.components();
+    if (auto value = timeZone())
+        return *value == *other.timeZone();
     if (auto value = list())
         return *value == *other.list();
     if (auto value = dictionary())

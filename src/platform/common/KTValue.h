@@ -10,8 +10,8 @@
 #include <vector>
 
 /// A value of a photo's property, a metadata tag or a setting: absent, the null marker (delete), text,
-/// integer, decimal, flag, list, dictionary, instant or date components. Lists, dictionaries and components
-/// are immutable and shared between copies, so copying is cheap and safe across threads.
+/// integer, decimal, flag, list, dictionary, instant, date components or time zone. Lists, dictionaries,
+/// components and zones are immutable and shared between copies, so copying is cheap and safe across threads.
 class KTValue {
 public:
     using List = std::vector<KTValue>;
@@ -31,6 +31,7 @@ public:
     KTValue(KTDecimal decimal) : content(decimal) {}
     KTValue(KTInstant instant) : content(instant) {}
     KTValue(KTDateComponents components);
+    KTValue(KTTimeZone zone);
     KTValue(List list);
     KTValue(Dictionary dictionary);
     template<typename T>
@@ -53,6 +54,7 @@ public:
     const bool* flag() const { return std::get_if<bool>(&content); }
     const KTInstant* date() const { return std::get_if<KTInstant>(&content); }
     const KTDateComponents* components() const;
+    const KTTimeZone* timeZone() const;
     const List* list() const;
     const Dictionary* dictionary() const;
 
@@ -72,6 +74,6 @@ private:
     using Shared = std::shared_ptr<const T>;
 
     std::variant<std::monostate, Null, std::string, std::int64_t, KTDecimal, bool, KTInstant,
-                 Shared<KTDateComponents>, Shared<List>, Shared<Dictionary>>
+                 Shared<KTDateComponents>, Shared<KTTimeZone>, Shared<List>, Shared<Dictionary>>
         content;
 };

@@ -1,12 +1,26 @@
 #include "platform/desktop/KTFileDates.h"
 
+#include "platform/common/KTCalendar.h"
 #include "platform/desktop/KTFileDescriptor.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace {
+
+constexpr const char* kCreationDate = "user.waymark.creation-date";
+
+std::optional<KTFileDate> keptCreationDate(const std::filesystem::path& file) {
+    std::array<char, 64> text = {};
+    const ssize_t size = ::getxattr(file.c_str(), kCreationDate, text.data(), text.size());
+    if (size <= 0)
+        return std::nullopt;
+    auto reading = KTDateComponents::dateComponentsWithString({text.data(), static_cast<std::size_t>(size)});
+    return reading ? KTCalendar(KTTimeZone::utc()).dateFromComponents(*reading) : std::nullopt;
+}
 
 std::optional<KTFileDate> dateOf(const std::filesystem::path& file, unsigned wanted,
                                  statx_timestamp statx::*member) {
@@ -27,7 +41,23 @@ std::optional<KTFileDate> KTModificationDate(const std::filesystem::path& file) 
 }
 
 std::optional<KTFileDate> KTCreationDate(const std::filesystem::path& file) {
-    return dateOf(file, STATX_BTIME, &statx::stx_btime);
+    auto kept = keptCreationDate(file);
+    return kept ? kept : dateOf(file, STATX_BTIME, &statx::stx_btime);
+}
+
+KTCreationDateOutcome KTSetCreationDate(const std::filesystem::path& file, KTFileDate date) {
+    const auto wanted = std::chrono::floor<std::chrono::seconds>(date);
+    if (auto current = KTCreationDate(file);
+        current && std::chrono::floor<std::chrono::seconds>(*current) == wanted)
+        return {};
+    const std::string text = KTISO8601Text(wanted);
+    if (::setxattr(file.c_str(), kCreationDate, text.data(), text.size(), 0) == 0)
+        return {};
+    if (errno == ENOTSUP || errno == ENOSYS)
+        return {KTCreationDateOutcome::NoPlace,
+                KTFileErrorText("There is no place to keep the creation date of “%@”: %@", file, errno)};
+    return {KTCreationDateOutcome::Failed,
+            KTFileErrorText("The creation date of “%@” cannot be kept: %@", file, errno)};
 }
 
 std::optional<std::string> KTSetModificationDate(const std::filesystem::path& file, KTFileDate date) {

@@ -114,7 +114,8 @@ std::optional<std::string> KTCopyItem(const fs::path& source, const fs::path& de
     return KTFileErrorText(kCannotCreate, destination, error);
 }
 
-std::optional<std::string> KTReplaceItem(const fs::path& target, const fs::path& temporary) {
+std::optional<std::string> KTReplaceItem(const fs::path& target, const fs::path& temporary,
+                                         const std::function<bool()>& mayReplace) {
     const fs::path original = KTLinkTarget(target);
     KTFileDescriptor newFile(temporary, O_RDONLY | O_NOFOLLOW);
     if (!newFile.isOpen())
@@ -130,6 +131,9 @@ std::optional<std::string> KTReplaceItem(const fs::path& target, const fs::path&
         error = takeOver(original, newFile.get());
     if (error == 0 && ::fsync(newFile.get()) != 0)
         error = errno;
+    if (error == 0 && mayReplace && !mayReplace())
+        return KTStringWithFormat(KTLocalizedString("“%@” was changed by another program."),
+                                  {KTValidUTF8(target.string())});
     if (error == 0 && ::rename(temporary.c_str(), original.c_str()) != 0)
         error = errno;
     if (error != 0)

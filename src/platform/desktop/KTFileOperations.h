@@ -1,5 +1,6 @@
 #pragma once
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -24,8 +25,12 @@ std::optional<std::string> KTCopyItem(const std::filesystem::path& source,
 /// Fails, and leaves @p target as it was, when a step before the replacement fails, when @p target is not a
 /// file, or when it is a file that the process may not write to (photographers protect their originals this
 /// way). Only the last step, bringing the folder to disk, can fail after the replacement.
+///
+/// @p mayReplace, where given, is asked last, immediately before the replacement; nothing is replaced when it
+/// says no.
 std::optional<std::string> KTReplaceItem(const std::filesystem::path& target,
-                                         const std::filesystem::path& temporary);
+                                         const std::filesystem::path& temporary,
+                                         const std::function<bool()>& mayReplace = {});
 
 /// The name under which a copy of a file called @p name goes into @p folder: its own, or the first of
 /// "base-1.ext", "base-2.ext", … that does not exist there yet.

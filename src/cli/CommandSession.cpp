@@ -49,6 +49,13 @@ KTTrackManager* CommandSession::tracks() {
     return trackManager.get();
 }
 
+void CommandSession::messages(const std::filesystem::path& photo,
+                              const std::vector<KTPhotoOperation>& operations) const {
+    for (const KTPhotoOperation& operation : operations)
+        if (operation.resultType() != KTPhotoOperation::Success)
+            message(photo.string() + ": " + operation.resultDescription());
+}
+
 void CommandSession::message(const std::string& text) const {
     KTLog("waymark-cli: " + text);
 }

@@ -26,6 +26,8 @@ public:
     KTTrackManager* tracks();
     static std::filesystem::path defaultLibraryFile();
 
+    /// The warnings and failures among a photo's @p operations, as messages.
+    void messages(const std::filesystem::path& photo, const std::vector<KTPhotoOperation>& operations) const;
     /// A line on standard error.
     void message(const std::string& text) const;
     /// A message about something that did not work: the run's exit status becomes 1.

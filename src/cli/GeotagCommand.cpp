@@ -4,6 +4,7 @@
 
 #include "geotagging/KTPointChoice.h"
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTPhotoChangeTracker.h"
 #include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/tracklibrary/KTTrackPointSearch.h"
@@ -44,10 +45,7 @@ void GeotagCommand::applyOptions() {
         override("shouldIgnorePreviouslyTaggedPhotos", false);
     if (noAltitude)
         override("defaultShouldSaveAltitude", false);
-    if (preserveDate)
-        override("defaultShouldPreserveModificationDate", true);
-    if (sidecarStyle)
-        override("defaultXMPSidecarStyle", std::int64_t(*sidecarStyle));
+    saving.apply();
 }
 
 int GeotagCommand::run(CommandSession& session) {
@@ -63,7 +61,7 @@ int GeotagCommand::run(CommandSession& session) {
     for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
         session.showProgress(dryRun ? "Loading image %lu of %lu" : "Geotagging photo %u of %u", i + 1,
                              files.size());
-        GeotagOutcome outcome = judge(*KTPhoto::initWithFile(files[i]), criteria, search);
+        GeotagOutcome outcome = geotag(files[i], criteria, search);
         session.endProgress();
         report.add(outcome);
     }
@@ -89,15 +87,21 @@ bool GeotagCommand::importTracks(CommandSession& session) {
     return !session.hasFailed();
 }
 
-GeotagOutcome GeotagCommand::judge(KTPhoto& photo, const KTGeotaggingCriteria& criteria,
-                                   const KTTrackPointSearch& search) {
+GeotagOutcome GeotagCommand::geotag(const std::filesystem::path& file, const KTGeotaggingCriteria& criteria,
+                                    const KTTrackPointSearch& search) {
     GeotagOutcome outcome;
-    outcome.path = photo.fileURL();
-    outcome.wasRead = photo.isValid();
-    if (!photo.isValid()) {
-        outcome.operations = photo.photoOperations();
-        return outcome;
-    }
+    outcome.path = file;
+    const auto photo = KTPhoto::initWithFile(file, {}, nullptr, {.log = &outcome.operations});
+    outcome.wasRead = photo && photo->isValid();
+    if (outcome.wasRead)
+        judge(*photo, outcome, criteria, search);
+    if (photo)
+        outcome.operations = photo->photoOperations();
+    return outcome;
+}
+
+void GeotagCommand::judge(KTPhoto& photo, GeotagOutcome& outcome, const KTGeotaggingCriteria& criteria,
+                          const KTTrackPointSearch& search) {
     const auto instant = photo.dateTimeOriginal();
     if (instant) {
         outcome.neighbours.preceding = search.pointPrecedingTime(*instant);
@@ -111,13 +115,11 @@ GeotagOutcome GeotagCommand::judge(KTPhoto& photo, const KTGeotaggingCriteria& c
         outcome.point = pointOf(outcome);
     }
     if (outcome.point && !dryRun) {
+        const KTPhotoChangeTracker tracker(photo);
         photo.setLocationCreatedFromPoint(*outcome.point);
-        photo.saveWithBackupToFolder(
-            backupFolder.empty() ? std::nullopt : std::optional<std::filesystem::path>(backupFolder));
+        photo.saveWithBackupToFolder(saving.backupFolder());
         outcome.saved = !photo.hasUnsavedChanges();
     }
-    outcome.operations = photo.photoOperations();
-    return outcome;
 }
 
 std::optional<KTGeoPoint> GeotagCommand::pointOf(const GeotagOutcome& outcome) {
@@ -179,13 +181,7 @@ void addGeotagCommand(CLI::App& app, CommandList& commands) {
     parser->add_flag("--overwrite", command->overwrite, "Also photos that already carry a location");
     parser->add_flag("--no-place", command->noPlace, "No city, state, country");
     parser->add_flag("--no-altitude", command->noAltitude, "Leave the altitude alone");
-    parser
-        ->add_option("--sidecar-style", command->sidecarStyle,
-                     "0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists")
-        ->check(CLI::Range(0, 4));
-    parser->add_option("--backup", command->backupFolder, "Keep backups there")
-        ->check(CLI::ExistingDirectory);
-    parser->add_flag("--preserve-date", command->preserveDate, "Keep the files' modification dates");
+    command->saving.addTo(*parser);
     parser->add_flag("--dry-run", command->dryRun, "Judge and print, write nothing");
     parser->add_option("PATH", command->paths, "Photos, sidecars or folders")->required();
     commands.push_back({parser, std::move(command)});

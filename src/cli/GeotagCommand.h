@@ -1,6 +1,7 @@
 #pragma once
 #include "cli/Command.h"
 #include "cli/GeotagReport.h"
+#include "cli/SaveOptions.h"
 
 class KTTrackPointSearch;
 
@@ -8,11 +9,11 @@ class KTTrackPointSearch;
 class GeotagCommand : public Command {
 public:
     std::vector<std::string> paths, tracks;
-    std::string timeZone, backupFolder;
+    std::string timeZone;
     std::optional<double> maximumTime, maximumDistance;
-    std::optional<int> sidecarStyle;
     bool noTime = false, noDistance = false, bothCriteria = false, timeWeighted = false, overwrite = false;
-    bool noPlace = false, noAltitude = false, preserveDate = false, dryRun = false;
+    bool noPlace = false, noAltitude = false, dryRun = false;
+    SaveOptions saving;
 
     int run(CommandSession& session) override;
 
@@ -20,8 +21,10 @@ private:
     void applyOptions();
     bool importTracks(CommandSession& session);
     /// The photo's fate; writes it unless this is a dry run.
-    GeotagOutcome judge(KTPhoto& photo, const KTGeotaggingCriteria& criteria,
-                        const KTTrackPointSearch& search);
+    GeotagOutcome geotag(const std::filesystem::path& file, const KTGeotaggingCriteria& criteria,
+                         const KTTrackPointSearch& search);
+    void judge(KTPhoto& photo, GeotagOutcome& outcome, const KTGeotaggingCriteria& criteria,
+               const KTTrackPointSearch& search);
     static std::optional<KTGeoPoint> pointOf(const GeotagOutcome& outcome);
     void noteZone(KTInstant instant);
     void warnAboutZoneChanges(const CommandSession& session) const;

@@ -29,10 +29,12 @@ public:
         }
         for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
             session.showProgress("Loading image %lu of %lu", i, files.size());
-            auto photo = photos.next();
-            if (!photo->isValid())
+            const auto [photo, failure] = photos.next();
+            if (!photo || !photo->isValid())
                 session.setFailed();
-            if (json)
+            if (!photo)
+                printFailure(session, json, files[i], failure);
+            else if (json)
                 printJSON(*json, *photo);
             else
                 printText(session, *photo);
@@ -48,18 +50,31 @@ public:
 private:
     bool wants(std::string_view part) const { return only.empty() || only == part; }
 
+    static void printFailure(CommandSession& session, std::optional<JSONOutput>& json,
+                             const std::filesystem::path& file,
+                             const std::vector<KTPhotoOperation>& failure) {
+        session.messages(file, failure);
+        if (!json)
+            return;
+        json->beginObject();
+        json->member("path", file.string());
+        json->member("valid", false);
+        json->member("operations", failure);
+        json->endObject();
+    }
+
     void printJSON(JSONOutput& json, const KTPhoto& photo) const {
         json.beginObject();
         json.member("path", photo.fileURL().string());
         json.member("valid", photo.isValid());
         json.member("fileSize", photo.valueForKey("fileSize"));
         if (wants("tags")) {
-            json.member("tags", photo.imageSource().saved);
+            json.member("tags", *photo.source(KTMetadataSource::Image).saved);
             if (photo.hasXMPSidecar())
-                json.member("sidecarTags", photo.sidecarSource().saved);
+                json.member("sidecarTags", *photo.source(KTMetadataSource::Sidecar).saved);
         }
         if (wants("properties")) {
-            const KTMetadataProperties& flags = photo.imageSource().properties;
+            const KTMetadataProperties flags = photo.source(KTMetadataSource::Image).properties;
             json.key("flags");
             json.beginObject();
             json.member("hasEXIFBlock", flags.hasEXIFBlock);

@@ -1,7 +1,9 @@
 #include "cli/Command.h"
 #include "cli/JSONOutput.h"
+#include "cli/SaveOptions.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTPhotoChangeTracker.h"
 #include "platform/common/KTCalendar.h"
 #include "platform/common/KTText.h"
 
@@ -50,12 +52,13 @@ KTValue valueFromText(const KTMetadataField& field, std::string_view text) {
 class SetCommand : public Command {
 public:
     std::vector<std::string> arguments;
-    std::string backupFolder;
+    SaveOptions saving;
 
     int run(CommandSession& session) override {
         std::vector<std::pair<std::string, KTValue>> edits;
         std::vector<std::string> paths;
         split(edits, paths);
+        saving.apply();
         CommandSession::noteInterruptions();
         const auto files = session.photoFiles(paths);
         std::optional<JSONOutput> json;
@@ -93,7 +96,7 @@ private:
             auto field = KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key);
             if (!field)
                 throw UsageError{"there is no field \"" + key + "\" (waymark-cli fields lists them)"};
-            if (field->readonly() || key == "creationDate")
+            if (field->readonly())
                 throw UsageError{"the field \"" + key + "\" cannot be edited"};
             edits.emplace_back(key, valueFromText(*field, std::string_view(argument).substr(equals + 1)));
         }
@@ -103,19 +106,11 @@ private:
 
     void edit(CommandSession& session, std::optional<JSONOutput>& json, const std::filesystem::path& file,
               const std::vector<std::pair<std::string, KTValue>>& edits) const {
-        auto photo = KTPhoto::initWithFile(file);
-        if (photo->isValid()) {
-            for (const auto& [key, value] : edits)
-                photo->setValueForKey(key, value);
-            photo->saveWithBackupToFolder(
-                backupFolder.empty() ? std::nullopt : std::optional<std::filesystem::path>(backupFolder));
-        }
-        const bool saved = photo->isValid() && !photo->hasUnsavedChanges();
+        std::vector<KTPhotoOperation> operations;
+        const bool saved = editAndSave(file, edits, operations);
         if (!saved)
             session.setFailed();
-        for (const KTPhotoOperation& operation : photo->photoOperations())
-            if (operation.resultType() != KTPhotoOperation::Success)
-                session.message(file.string() + ": " + operation.resultDescription());
+        session.messages(file, operations);
         if (!json) {
             std::printf("%s: %s\n", file.c_str(), saved ? "saved" : "not saved");
             return;
@@ -123,8 +118,24 @@ private:
         json->beginObject();
         json->member("path", file.string());
         json->member("saved", saved);
-        json->member("operations", photo->photoOperations());
+        json->member("operations", operations);
         json->endObject();
+    }
+
+    bool editAndSave(const std::filesystem::path& file,
+                     const std::vector<std::pair<std::string, KTValue>>& edits,
+                     std::vector<KTPhotoOperation>& operations) const {
+        const auto photo = KTPhoto::initWithFile(file, {}, nullptr, {.log = &operations});
+        if (!photo)
+            return false;
+        if (photo->isValid()) {
+            const KTPhotoChangeTracker tracker(*photo);
+            for (const auto& [key, value] : edits)
+                photo->setValueForKey(key, value);
+            photo->saveWithBackupToFolder(saving.backupFolder());
+        }
+        operations = photo->photoOperations();
+        return photo->isValid() && !photo->hasUnsavedChanges();
     }
 };
 
@@ -133,8 +144,7 @@ private:
 void addSetCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<SetCommand>();
     CLI::App* parser = app.add_subcommand("set", "Set fields by key and save");
-    parser->add_option("--backup", command->backupFolder, "Keep backups there")
-        ->check(CLI::ExistingDirectory);
+    command->saving.addTo(*parser);
     parser
         ->add_option("KEY=VALUE... PATH...", command->arguments,
                      "Edits, then photos or folders; an empty value clears")

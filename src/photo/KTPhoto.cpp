@@ -1,26 +1,53 @@
 #include "photo/KTPhoto.h"
 
 #include "metadata/KTMetadataFieldManager.h"
-#include "platform/common/KTCalendar.h"
+#include "photo/KTPhotoPropertyTable.h"
+#include "photo/KTPhotoSidecar.h"
 #include "platform/common/KTText.h"
-#include "platform/defaults/KTUserDefaults.h"
+#include "platform/concurrency/KTCallContext.h"
+#include "platform/desktop/KTMediaObject.h"
+#include "platform/desktop/KTTypeIdentifiers.h"
 
-namespace {
-
-constexpr std::string_view kRoundedKeys[] = {"latitude",       "longitude",     "altitude",
-                                             "imageDirection", "latitudeShown", "longitudeShown"};
-constexpr int kFractionalDigits = 8;
-
-const KTMetadataField* fieldForKey(std::string_view key) {
-    return KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key);
+KTPhoto::KTPhoto(std::filesystem::path file, std::shared_ptr<const KTMediaObject> item)
+    : imageURL(std::move(file)),
+      libraryItem(std::move(item)), dates{KTPhotoDateFamily(KTPhotoDateFamily::Original),
+                                          KTPhotoDateFamily(KTPhotoDateFamily::Digitized)},
+      values(KTPhotoPropertyTable::storedValues()), sources{KTMetadataSource(KTMetadataSource::Image),
+                                                            KTMetadataSource(KTMetadataSource::Sidecar),
+                                                            KTMetadataSource(KTMetadataSource::Library)},
+      photoSidecar(std::make_unique<KTPhotoSidecar>(*this)) {
+    sources[KTMetadataSource::Sidecar].properties.hasXMPBlock = true;
 }
 
-bool readsAs(const KTMetadataSource& source, const KTMetadataField& field, const KTValue& value) {
-    KTValue own = source.valueForField(field);
-    return own == value || (!own.isSomething() && !value.isSomething());
+KTPhoto::~KTPhoto() {
+    photoSidecar.reset(); // it may be telling this photo of its file
 }
 
-} // namespace
+std::shared_ptr<KTPhoto> KTPhoto::init() {
+    return std::shared_ptr<KTPhoto>(new KTPhoto({}, nullptr));
+}
+
+std::shared_ptr<KTPhoto> KTPhoto::copyWithZone() const {
+    std::shared_ptr<KTPhoto> copy(new KTPhoto(imageURL, nullptr));
+    const KTCallMark untracked(copy.get());
+    {
+        std::scoped_lock guard(mutex, copy->mutex);
+        copy->values = values;
+        copy->knownCreationDate = knownCreationDate;
+        for (const auto kind : {KTMetadataSource::Image, KTMetadataSource::Sidecar}) {
+            copy->sources[kind].saved = sources[kind].saved;
+            copy->sources[kind].changes = sources[kind].changes;
+            copy->sources[kind].properties = sources[kind].properties;
+            copy->sources[kind].stamp = sources[kind].stamp;
+        }
+        copy->recordedKeys = recordedKeys;
+        copy->valid = valid;
+        copy->unsaved = unsaved;
+    }
+    for (const auto which : {KTPhotoDateFamily::Original, KTPhotoDateFamily::Digitized})
+        copy->setDateComponents(which, readingOf(which).components);
+    return copy;
+}
 
 std::filesystem::path KTPhoto::xmpURL() const {
     return std::filesystem::path(imageURL).replace_extension("xmp");
@@ -28,73 +55,109 @@ std::filesystem::path KTPhoto::xmpURL() const {
 
 bool KTPhoto::hasXMPSidecar() const {
     std::error_code error;
-    return std::filesystem::exists(xmpURL(), error);
+    return !imageURL.empty() && std::filesystem::exists(xmpURL(), error);
 }
 
-KTSaveTargets KTPhoto::targets() const {
-    return saveTargets(imageURL,
-                       KTUserDefaults::standardUserDefaults().integerForKey("defaultXMPSidecarStyle"),
-                       hasXMPSidecar());
+KTValue KTPhoto::uti() const {
+    return KTTypeIdentifierForPath(imageURL);
 }
 
-bool KTPhoto::hasUnsavedChanges() const {
-    const KTSaveTargets where = targets();
-    return (where.imageFile && !image.changes.empty()) || (where.xmpSidecar && !sidecar.changes.empty());
+std::string KTPhoto::description() const {
+    char generic[40];
+    std::snprintf(generic, sizeof generic, "<KTPhoto: %p>", static_cast<const void*>(this));
+    return KTStringWithFormat("%@, %@", {generic, filename()});
 }
 
-std::optional<KTInstant> KTPhoto::dateTimeOriginal() const {
-    KTValue value = valueForKey("dateTimeOriginalComponents");
-    return value.components() ? KTInstantOfComponents(*value.components()) : std::nullopt;
+bool KTPhoto::isValid() const {
+    std::lock_guard guard(mutex);
+    return valid;
 }
 
-bool KTPhoto::isGeotagged() const {
-    return values.hasValue("latitude") && values.hasValue("longitude");
+KTMetadataSource KTPhoto::source(KTMetadataSource::Kind kind) const {
+    std::lock_guard guard(mutex);
+    return sources[kind];
 }
 
-KTValue KTPhoto::savedPropertyWithKey(std::string_view key) const {
-    const KTMetadataField* field = fieldForKey(key);
-    if (field == nullptr)
+std::vector<KTPhotoOperation> KTPhoto::photoOperations() const {
+    std::lock_guard guard(mutex);
+    return operations;
+}
+
+std::optional<KTPhotoOperation> KTPhoto::lastPhotoOperation() const {
+    std::lock_guard guard(mutex);
+    return operations.empty() ? std::nullopt : std::optional(operations.back());
+}
+
+void KTPhoto::addPhotoOperation(const std::optional<KTPhotoOperation>& operation) {
+    if (!operation)
+        return;
+    std::size_t index;
+    {
+        std::lock_guard guard(mutex);
+        index = operations.size();
+    }
+    willChange("photoOperations", KTChange::Kind::Insertion, {index});
+    willChange("lastPhotoOperation");
+    {
+        std::lock_guard guard(mutex);
+        operations.push_back(*operation);
+    }
+    didChange("lastPhotoOperation");
+    didChange("photoOperations", KTChange::Kind::Insertion, {index});
+}
+
+KTValue KTPhoto::storedValue(std::size_t place) const {
+    std::lock_guard guard(mutex);
+    return values[place];
+}
+
+KTValue KTPhoto::valueForKey(std::string_view key) const {
+    const KTPhotoProperty* property = KTPhotoPropertyTable::propertyForKey(key);
+    if (property == nullptr)
         return {};
-    KTValue value = targets().xmpSidecar && hasXMPSidecar() ? sidecar.valueForField(*field) : KTValue();
-    return value.isSomething() ? value : image.valueForField(*field);
+    return property->get != nullptr ? property->get(*this) : storedValue(property->place);
+}
+
+std::optional<KTDecimal> KTPhoto::decimalForKey(std::string_view key) const {
+    return valueForKey(key).number();
 }
 
 void KTPhoto::setValueForKey(std::string_view key, const KTValue& value) {
-    const KTMetadataField* field = fieldForKey(key);
-    if (field == nullptr || field->readonly())
+    const KTPhotoProperty* property = KTPhotoPropertyTable::propertyForKey(key);
+    if (property == nullptr)
         return;
-    assign(key, value);
-    recordEdit(*field);
+    if (property->set != nullptr)
+        property->set(*this, value);
+    else if (property->get == nullptr)
+        setStoredValue(*property, value);
 }
 
-void KTPhoto::assign(std::string_view key, const KTValue& value) {
+void KTPhoto::setStoredValue(const KTPhotoProperty& property, const KTValue& value) {
     KTValue stored = value.isNull() ? KTValue() : value;
-    if (std::ranges::find(kRoundedKeys, key) != std::end(kRoundedKeys)) {
-        auto number = stored.text() ? KTDecimal::fromText(KTTrimmed(*stored.text())) : stored.number();
-        stored = number && !number->isNaN() ? KTValue(number->rounded(kFractionalDigits)) : KTValue();
-    } else if (auto number = stored.number(); number && key == "rating") {
-        stored = KTDecimal::fromDouble(static_cast<float>(number->toDouble())).rounded(kFractionalDigits);
+    if (property.normalized != nullptr)
+        stored = property.normalized(stored);
+    if (!property.alsoChanges.empty())
+        willChange(property.alsoChanges);
+    willChange(property.key);
+    {
+        std::lock_guard guard(mutex);
+        std::swap(values[property.place], stored);
     }
-    values.set(key, std::move(stored));
+    didChange(property.key, KTChange::Kind::Setting, {}, std::move(stored));
+    if (!property.alsoChanges.empty())
+        didChange(property.alsoChanges);
 }
 
-/// An edit back to what every source that a save writes to holds withdraws the field's pending tags; any
-/// other edit is recorded for both sources, whichever of them the next save writes.
-void KTPhoto::recordEdit(const KTMetadataField& field) {
-    const KTValue value = valueForKey(field.key());
-    const KTSaveTargets where = targets();
-    const bool isAsSaved = (!where.imageFile || readsAs(image, field, value)) &&
-                           (!where.xmpSidecar || !hasXMPSidecar() || readsAs(sidecar, field, value)) &&
-                           (hasXMPSidecar() || readsAs(image, field, value));
-    std::set<std::string>& keys = recordedKeys[field.key()];
-    for (KTMetadataSource* source : {&image, &sidecar}) {
-        const KTTagDictionary before = source->changes;
-        source->record(field, value);
-        for (const auto& [key, change] : source->changes)
-            if (!before.find(key))
-                keys.insert(key.text());
-        if (isAsSaved)
-            for (const std::string& key : keys)
-                source->changes.remove(key);
-    }
+bool KTPhoto::isGeotagged() const {
+    return valueForKey("latitude").isSomething() && valueForKey("longitude").isSomething();
+}
+
+bool KTPhoto::hasLatitudeLongitudeShown() const {
+    return valueForKey("latitudeShown").isSomething() && valueForKey("longitudeShown").isSomething();
+}
+
+void KTPhoto::removeAllGPSValues() {
+    for (const char* key :
+         {"latitude", "longitude", "altitude", "gpsDateTime", "gpsMapDatum", "gpsVersionID"})
+        setValueForKey(key, {});
 }

@@ -1,17 +1,19 @@
 #include "photo/KTPhoto.h"
 
+#include "platform/common/KTLocalizedString.h"
 #include "platform/defaults/KTUserDefaults.h"
 
 void KTPhoto::setLocationCreatedFromPoint(const KTGeoPoint& point) {
     const KTUserDefaults& defaults = KTUserDefaults::standardUserDefaults();
-    setValueForKey("latitude", point.latitude);
-    setValueForKey("longitude", point.longitude);
-    setValueForKey("gpsMapDatum", "WGS-84");
-    setValueForKey("gpsVersionID", "2.2.0.0");
+    KTValue::Dictionary location{{"latitude", point.latitude},
+                                 {"longitude", point.longitude},
+                                 {"gpsMapDatum", "WGS-84"},
+                                 {"gpsVersionID", "2.2.0.0"},
+                                 {"gpsDateTime", point.date ? KTValue(*point.date) : KTValue::null()}};
     // A point without elevation leaves the altitude alone.
     const bool mayReplace =
-        !values.hasValue("altitude") || defaults.boolForKey("defaultShouldOverwriteAltitude");
+        !decimalForKey("altitude") || defaults.boolForKey("defaultShouldOverwriteAltitude");
     if (point.elevation && mayReplace && defaults.boolForKey("defaultShouldSaveAltitude"))
-        setValueForKey("altitude", *point.elevation);
-    setValueForKey("gpsDateTime", point.date);
+        location.emplace("altitude", *point.elevation);
+    setValuesForKeysWithDictionary(location, KTLocalizedString("Geotag Photos"));
 }

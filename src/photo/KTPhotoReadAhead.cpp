@@ -36,20 +36,20 @@ void KTPhotoReadAhead::readPhotos(bool withSharedTool) {
             return;
         const std::size_t index = begun++;
         lock.unlock();
-        std::shared_ptr<KTPhoto> photo = KTPhoto::initWithFile(files[index], tool);
+        Result result;
+        result.photo =
+            KTPhoto::initWithFile(files[index], {}, nullptr, {.exifTool = &tool, .log = &result.failure});
         lock.lock();
-        finished.emplace(index, std::move(photo));
+        finished.emplace(index, std::move(result));
         changed.notify_all();
     }
 }
 
-std::shared_ptr<KTPhoto> KTPhotoReadAhead::next() {
+KTPhotoReadAhead::Result KTPhotoReadAhead::next() {
     std::unique_lock lock(mutex);
-    if (handedOut == files.size())
-        return nullptr;
     changed.wait(lock, [this] { return finished.contains(handedOut); });
-    std::shared_ptr<KTPhoto> photo = std::move(finished.extract(handedOut).mapped());
+    Result result = std::move(finished.extract(handedOut).mapped());
     ++handedOut;
     changed.notify_all();
-    return photo;
+    return result;
 }

@@ -16,8 +16,12 @@ public:
     KTPhotoReadAhead(const KTPhotoReadAhead&) = delete;
     KTPhotoReadAhead& operator=(const KTPhotoReadAhead&) = delete;
 
-    /// The next photo, as KTPhoto::initWithFile gives it; null after the last one.
-    std::shared_ptr<KTPhoto> next();
+    struct Result {
+        std::shared_ptr<KTPhoto> photo;        ///< as KTPhoto::initWithFile gives it
+        std::vector<KTPhotoOperation> failure; ///< why there is no photo
+    };
+    /// The next file's. Not after the last one.
+    Result next();
 
 private:
     void readPhotos(bool withSharedTool);
@@ -25,7 +29,7 @@ private:
     const std::vector<std::filesystem::path> files;
     std::mutex mutex;
     std::condition_variable changed;
-    std::map<std::size_t, std::shared_ptr<KTPhoto>> finished;
+    std::map<std::size_t, Result> finished;
     std::size_t begun = 0;     // files that a thread has taken
     std::size_t handedOut = 0; // photos that next() has given
     bool stopping = false;

@@ -1,14 +1,23 @@
-#include "photo/KTPhoto.h"
+#include "photo/KTPhotoWriteRequest.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTPhotoChangeTracker.h"
 #include "photo/KTWrittenValues.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
+#include "platform/concurrency/KTCallContext.h"
+#include "platform/concurrency/KTMainThread.h"
 #include "platform/defaults/KTUserDefaults.h"
-#include "platform/desktop/KTFileDates.h"
-#include "platform/desktop/KTItemReplacement.h"
+#include "platform/desktop/KTFileOperations.h"
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Another program may write to the file while its new version is being made; then the version is made anew.
+constexpr int kMaximumAttempts = 5;
+
+} // namespace
 
 void KTPhoto::log(const fs::path& file, const char* description, const std::optional<std::string>& failure) {
     KTPhotoOperation operation;
@@ -17,142 +26,139 @@ void KTPhoto::log(const fs::path& file, const char* description, const std::opti
     operation.operationDidSucceed = !failure;
     operation.failureReason = failure ? 1 : 0;
     operation.failureDescription = failure;
-    operations.push_back(std::move(operation));
+    addPhotoOperation(operation);
 }
 
 void KTPhoto::saveWithBackupToFolder(const std::optional<fs::path>& backupFolder) {
-    if (!hasUnsavedChanges())
+    // The two date stamps are edits like any other; where nobody records edits, this save does.
+    std::optional<KTPhotoChangeTracker> ownTracker;
+    if (trackers == 0)
+        ownTracker.emplace(*this);
+    saveToIPhotoOriginalIfNecessaryWithBackupToFolder(backupFolder);
+    const KTCallMark untracked(this);
+    if (!saveFiles(backupFolder))
         return;
-    const KTSaveTargets where = targets();
-    const bool writesImage = where.imageFile && !image.changes.empty();
-    const KTValue now = KTInstantNow();
+    saveLibraryItem();
+    checkForUnsavedChanges();
+}
+
+void KTPhoto::stampWithDate(std::string_view key, const KTValue& date) {
+    KTPerformOnMainThreadAndWait([&] { setValueForKey(key, date); });
+}
+
+/// False when a failure stops the whole save.
+bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
+    if (!unsavedFile() && !unsavedSidecar())
+        return true;
     const KTValue metadataDate = valueForKey("metadataDate"), modifyDate = valueForKey("modifyDate");
-    setValueForKey("metadataDate", now);
-    bool imageWritten = false;
-    if (writesImage) {
-        setValueForKey("modifyDate", now);
-        recordDivergentIPTCFields();
-        imageWritten = saveImage(backupFolder);
+    const double shift = readingOf(KTPhotoDateFamily::Original).shift;
+    stampWithDate("metadataDate", KTInstantNow());
+    dates[KTPhotoDateFamily::Original].storeShift(0); // counts from the date that will be in the file
+
+    std::vector<WriteResult> results;
+    if (unsavedFile())
+        results.push_back(saveFile(KTMetadataSource::Image, backupFolder));
+    const bool isStopped = !results.empty() && results.back() == WriteResult::Stopped;
+    if (!isStopped && unsavedSidecar())
+        results.push_back(saveFile(KTMetadataSource::Sidecar, backupFolder));
+    if (std::ranges::find(results, WriteResult::Written) == results.end()) {
+        // Nothing was stamped on disk, so nothing may look stamped.
+        stampWithDate("metadataDate", metadataDate);
+        stampWithDate("modifyDate", modifyDate);
+        dates[KTPhotoDateFamily::Original].storeShift(shift);
     }
-    const bool mayGoOn = imageWritten || !writesImage;
-    const bool sidecarWritten =
-        mayGoOn && where.xmpSidecar && !sidecar.changes.empty() && saveSidecar(backupFolder);
-    if (!imageWritten && !sidecarWritten) { // nothing was stamped on disk, so nothing may look stamped
-        setValueForKey("metadataDate", metadataDate);
-        if (writesImage)
-            setValueForKey("modifyDate", modifyDate);
-    }
+    return std::ranges::find(results, WriteResult::Stopped) == results.end();
 }
 
-bool KTPhoto::saveImage(const std::optional<fs::path>& backupFolder) {
-    if (backupFolder) {
-        auto failure = KTCopyItem(imageURL, *backupFolder / KTBackupName(*backupFolder, imageURL.filename()));
-        if (failure) {
-            log(imageURL, "Copy original image to backup folder", failure);
-            return false;
+KTPhoto::WriteResult KTPhoto::saveFile(KTMetadataSource::Kind kind,
+                                       const std::optional<fs::path>& backupFolder) {
+    const bool isImage = kind == KTMetadataSource::Image;
+    for (int attempt = 1; attempt <= kMaximumAttempts; ++attempt) {
+        const auto warning = refreshIfChanged(kind);
+        if (isImage) {
+            if (!backUpImage(backupFolder))
+                return WriteResult::Stopped;
+            stampWithDate("modifyDate", KTInstantNow());
         }
+        WriteRequest request = isImage ? imageRequest() : sidecarRequest();
+        request.warning = warning;
+        request.backupFolder = backupFolder;
+        const WriteResult result = writeAndReplace(request);
+        if (result != WriteResult::ChangedMeanwhile)
+            return result;
     }
-    const auto modified = KTModificationDate(imageURL);
-    if (!writeAndReplace(image, image.changes, imageURL, imageURL))
-        return false;
-    if (KTUserDefaults::standardUserDefaults().boolForKey("defaultShouldPreserveModificationDate"))
-        log(imageURL, "Preserve modification date",
-            modified ? KTSetModificationDate(imageURL, *modified) : std::nullopt);
-    image.properties.hasEXIFBlock = true;
-    return true;
+    const fs::path file = isImage ? imageURL : xmpURL();
+    log(file, isImage ? "Overwrite original file" : "Overwrite original xmp file",
+        KTStringWithFormat(KTLocalizedString("“%@” keeps being changed by another program."),
+                           {KTValidUTF8(file.string())}));
+    return WriteResult::Failed;
 }
 
-bool KTPhoto::saveSidecar(const std::optional<fs::path>& backupFolder) {
-    if (!hasXMPSidecar()) {
-        KTTagDictionary content = seedsOfNewSidecar();
-        for (const auto& [key, value] : sidecar.changes)
-            content.set(key, value);
-        return writeAndReplace(sidecar, content, xmpURL(), imageURL);
-    }
-    if (backupFolder) // a failure of this copy does not keep the save
-        static_cast<void>(
-            KTCopyItem(xmpURL(), *backupFolder / KTBackupName(*backupFolder, xmpURL().filename())));
-    return writeAndReplace(sidecar, sidecar.changes, xmpURL(), xmpURL());
+bool KTPhoto::backUpImage(const std::optional<fs::path>& folder) {
+    if (!folder)
+        return true;
+    const auto failure = KTCopyItem(imageURL, *folder / KTBackupName(*folder, imageURL.filename()));
+    if (failure)
+        log(imageURL, "Copy original image to backup folder", failure);
+    return !failure;
+}
+
+KTPhoto::WriteRequest KTPhoto::imageRequest() const {
+    const KTMetadataSource image = source(KTMetadataSource::Image);
+    KTTagDictionary written = valuesOfDivergentIPTCFields(image);
+    for (const auto& [key, value] : image.changes)
+        written.set(key, value);
+    return {KTMetadataSource::Image,
+            imageURL,
+            imageURL,
+            image.changes,
+            adaptedToLanguageAlternatives(written, *image.saved),
+            image.stamp,
+            {},
+            {}};
+}
+
+KTPhoto::WriteRequest KTPhoto::sidecarRequest() const {
+    const KTMetadataSource sidecar = source(KTMetadataSource::Sidecar);
+    const bool exists = sidecar.stamp.has_value();
+    KTTagDictionary written = exists ? KTTagDictionary() : seedsOfNewSidecar(sidecar);
+    for (const auto& [key, value] : sidecar.changes)
+        written.set(key, value);
+    return {KTMetadataSource::Sidecar,
+            xmpURL(),
+            exists ? xmpURL() : imageURL,
+            sidecar.changes,
+            adaptedToLanguageAlternatives(written, *sidecar.saved),
+            sidecar.stamp,
+            {},
+            {}};
 }
 
 /// A new sidecar receives every value that the photo has, not only the edited ones.
-KTTagDictionary KTPhoto::seedsOfNewSidecar() const {
+KTTagDictionary KTPhoto::seedsOfNewSidecar(const KTMetadataSource& sidecar) const {
     KTTagDictionary seeds;
     for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields())
         if (!field->readonly())
             field->modifyExifToolChangesDictionary(seeds, valueForKey(field->key()), {}, sidecar.properties);
-    std::vector<std::string> deletions;
+    KTTagDictionary result;
     for (const auto& [key, value] : seeds)
-        if (value.isNull())
-            deletions.push_back(key.text());
-    for (const std::string& key : deletions)
-        seeds.remove(key);
-    return seeds;
+        if (!value.isNull())
+            result.set(key, value);
+    return result;
 }
 
 /// Writing IPTC renews its digest, which says that IPTC and XMP agree. Where they do not, the fields that the
 /// user did not touch would read from XMP ever after; so both get the value that stands in the photo now.
-void KTPhoto::recordDivergentIPTCFields() {
+KTTagDictionary KTPhoto::valuesOfDivergentIPTCFields(const KTMetadataSource& image) const {
+    KTTagDictionary result;
     const bool diverges = image.properties.hasIPTCChecksum && !image.properties.iptcChecksumDoesMatch;
     const bool writesIPTC = std::ranges::any_of(
         image.changes, [](const auto& change) { return std::string_view(change.key).starts_with("IPTC"); });
     if (!diverges || !writesIPTC)
-        return;
+        return result;
+    std::lock_guard guard(mutex);
     for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields())
-        if (!field->readonly() && !recordedKeys.contains(field->key()))
-            image.record(*field, image.valueForField(*field));
-}
-
-bool KTPhoto::writeAndReplace(KTMetadataSource& source, const KTTagDictionary& changes,
-                              const fs::path& target, const fs::path& contentFrom) {
-    KTItemReplacement replacement(target);
-    if (replacement.error()) {
-        log(target, "Create temporary directory", *replacement.error());
-        return false;
-    }
-    KTExifTool& exifTool = KTExifTool::sharedExifTool();
-    const fs::path& temporary = replacement.temporaryItem();
-    const KTTagDictionary written = adaptedToLanguageAlternatives(changes, source.saved);
-    KTPhotoOperation operation;
-    if (target == contentFrom && KTEqualIgnoringCase(target.extension().string(), ".xmp")) {
-        // An existing sidecar is edited, not rebuilt: other programs keep things there that we do not know.
-        if (auto failure = KTCopyItem(target, temporary)) {
-            log(target, "Create temporary item url", failure);
-            return false;
-        }
-        operation = exifTool.setValuesForKeysWithDictionary(written, temporary);
-    } else {
-        operation = exifTool.setValuesForKeysWithDictionary(written, temporary, contentFrom);
-    }
-    operation.url = target;
-
-    // One read proves the new file before it takes the old one's place, and tells what it holds now.
-    KTMetadataSource asWritten;
-    std::vector<KTTagDictionary::Entry> tags;
-    KTTagDictionary pending;
-    if (operation.operationDidSucceed) {
-        KTPhotoOperation proof = asWritten.read(exifTool, temporary, &tags);
-        if (!proof.operationDidSucceed) {
-            operation.operationDidSucceed = false;
-            operation.failureReason = 1;
-            operation.failureDescription = KTStringWithFormat(
-                KTLocalizedString("The new file could not be read back: %@"), {proof.resultDescription()});
-        } else {
-            pending = valuesNotWritten(written, tags);
-            if (!pending.empty())
-                addWarning(operation, pending);
-        }
-    }
-    const bool isWritten = operation.operationDidSucceed;
-    operations.push_back(std::move(operation));
-    if (!isWritten)
-        return false;
-    if (auto failure = KTReplaceItem(target, temporary)) {
-        log(target, &source == &image ? "Overwrite original file" : "Overwrite original xmp file", failure);
-        return false;
-    }
-    source.saved = std::move(asWritten.saved);
-    source.properties = asWritten.properties;
-    source.changes = std::move(pending);
-    return true;
+        if (!field->readonly() && !hasPendingKeys(*field, image.changes))
+            image.record(*field, image.valueForField(*field), result);
+    return result;
 }

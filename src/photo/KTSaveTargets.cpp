@@ -18,20 +18,20 @@ bool matchesAdobeDirectEmbedXMPTypePredicate(const std::filesystem::path& file) 
 
 KTSaveTargets saveTargets(const std::filesystem::path& file, std::int64_t sidecarStyle, bool hasSidecar) {
     if (KTEqualIgnoringCase(file.extension().string(), ".crw"))
-        return {false, true};
+        return {false, true, hasSidecar};
     const bool embeds = matchesAdobeDirectEmbedXMPTypePredicate(file);
     switch (sidecarStyle) {
     case 0:
-        return {true, false};
+        return {true, false, hasSidecar};
     case 1:
-        return {embeds, !embeds};
+        return {embeds, !embeds, hasSidecar};
     case 2:
-        return {false, true};
+        return {false, true, hasSidecar};
     case 3:
-        return {true, true};
+        return {true, true, hasSidecar};
     case 4:
-        return {!hasSidecar, hasSidecar};
+        return {!hasSidecar, hasSidecar, hasSidecar};
     default:
-        return {false, false};
+        return {false, false, hasSidecar};
     }
 }

@@ -12,6 +12,7 @@ bool matchesAdobeDirectEmbedXMPTypePredicate(const std::filesystem::path& file);
 struct KTSaveTargets {
     bool imageFile = false;
     bool xmpSidecar = false;
+    bool hasSidecar = false; ///< there is one now
 };
 
 /// The targets for the image @p file under the setting `defaultXMPSidecarStyle`: 0 image, 1 image where its

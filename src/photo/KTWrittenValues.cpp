@@ -81,15 +81,16 @@ KTTagDictionary valuesNotWritten(const KTTagDictionary& changes,
     return result;
 }
 
-void addWarning(KTPhotoOperation& operation, const KTTagDictionary& values) {
+std::string valuesNotWrittenText(const KTTagDictionary& values) {
     std::vector<std::string> keys;
     for (const auto& [key, value] : values)
         keys.push_back(key.text());
-    std::string warning =
-        KTStringWithFormat(KTLocalizedString("The file does not hold these values as they were given: %@"),
-                           {KTJoin(keys, ", ")});
-    if (operation.warningDescription)
-        warning = *operation.warningDescription + "; " + warning;
+    return KTStringWithFormat(KTLocalizedString("The file does not hold these values as they were given: %@"),
+                              {KTJoin(keys, ", ")});
+}
+
+void addWarning(KTPhotoOperation& operation, const std::string& warning) {
+    operation.warningDescription =
+        operation.warningDescription ? *operation.warningDescription + "; " + warning : warning;
     operation.isWarning = true;
-    operation.warningDescription = warning;
 }

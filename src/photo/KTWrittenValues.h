@@ -14,5 +14,8 @@ KTTagDictionary adaptedToLanguageAlternatives(const KTTagDictionary& changes, co
 KTTagDictionary valuesNotWritten(const KTTagDictionary& changes,
                                  const std::vector<KTTagDictionary::Entry>& asRead);
 
-/// Adds to @p operation a warning that names the keys of @p values.
-void addWarning(KTPhotoOperation& operation, const KTTagDictionary& values);
+/// The warning that names the keys of @p values.
+std::string valuesNotWrittenText(const KTTagDictionary& values);
+
+/// Adds @p warning to those that @p operation has.
+void addWarning(KTPhotoOperation& operation, const std::string& warning);

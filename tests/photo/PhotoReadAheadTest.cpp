@@ -21,17 +21,17 @@ TEST(PhotoReadAhead, HandsOutPhotosInOrderWhicheverThreadReadThem) {
     const auto files = makePhotos(folder, 40);
     KTPhotoReadAhead photos(files, 2);
     for (const auto& file : files) {
-        auto photo = photos.next();
-        ASSERT_TRUE(photo);
-        EXPECT_EQ(photo->fileURL(), file);
-        EXPECT_EQ(photo->isValid(), file.filename() != "missing.jpg");
+        const auto [photo, failure] = photos.next();
+        ASSERT_EQ(photo == nullptr, file.filename() == "missing.jpg");
+        if (photo)
+            EXPECT_EQ(photo->fileURL(), file);
+        else
+            EXPECT_EQ(failure.back().operationDescription, "Read from primary file URL.");
     }
-    EXPECT_FALSE(photos.next());
-    EXPECT_FALSE(KTPhotoReadAhead({}, 2).next());
 }
 
 TEST(PhotoReadAhead, MayBeLetGoOfBeforeItsEnd) {
     TemporaryFolder folder;
     KTPhotoReadAhead photos(makePhotos(folder, 40), 2);
-    EXPECT_TRUE(photos.next());
+    EXPECT_TRUE(photos.next().photo);
 }

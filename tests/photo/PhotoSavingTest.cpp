@@ -1,27 +1,13 @@
-#include "photo/KTPhoto.h"
+#include "tests/photo/PhotoFixture.h"
 
 #include "photo/KTWrittenValues.h"
-#include "platform/common/KTCalendar.h"
-#include "platform/defaults/KTUserDefaults.h"
-#include "tests/support/TestPhotos.h"
+#include "platform/desktop/KTFileDates.h"
 
-#include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
-class Photo : public testing::Test {
-protected:
-    void SetUp() override { KTUserDefaults::useThrowAwayDomain(); }
-
-    static void setStyle(int style) {
-        KTUserDefaults::standardUserDefaults().setValue("defaultXMPSidecarStyle", style);
-    }
-    static std::shared_ptr<KTPhoto> open(const std::filesystem::path& file) {
-        return KTPhoto::initWithFile(file);
-    }
-
-    TemporaryFolder folder;
-};
+class PhotoSaving : public PhotoFixture {};
 
 KTGeoPoint basel() {
     return {KTInstantFromMilliseconds(1401616799250), *KTDecimal::fromText("47.559601"),
@@ -34,51 +20,14 @@ bool leftNothingBehind(const TemporaryFolder& folder, std::size_t files) {
 
 } // namespace
 
-TEST_F(Photo, ReadsPropertiesAndFlags) {
-    auto photo = open(makePhoto(folder, "a.jpg",
-                                {{"EXIF:DateTimeOriginal", "2014:06:01 12:00:00"},
-                                 {"XMP:Title", "t"},
-                                 {"IPTC:Keywords", KTValue::listOfTexts({"a", "b"})}}));
-    EXPECT_TRUE(photo->isValid());
-    EXPECT_EQ(photo->valueForKey("title"), KTValue("t"));
-    EXPECT_EQ(photo->valueForKey("filename"), KTValue("a.jpg"));
-    EXPECT_EQ(photo->valueForKey("keywords"), KTValue::listOfTexts({"a", "b"}));
-    EXPECT_TRUE(photo->imageSource().properties.hasIPTCChecksum);
-    EXPECT_TRUE(photo->imageSource().properties.iptcChecksumDoesMatch);
-    EXPECT_TRUE(photo->dateTimeOriginal());
-    EXPECT_FALSE(photo->hasUnsavedChanges());
-
-    auto garbage = open(folder.file("x.jpg", std::string_view("\1\2\3\4\0\6", 6)));
-    EXPECT_FALSE(garbage->isValid());
-    EXPECT_EQ(garbage->photoOperations().back().resultType(), KTPhotoOperation::Failure);
-    garbage->setValueForKey("title", "x");
-    garbage->saveWithBackupToFolder(std::nullopt);
-    EXPECT_EQ(contentOf(folder / "x.jpg").size(), 6U);
-}
-
-TEST_F(Photo, AnEditBackToTheSavedValueLeavesNothingUnsaved) {
-    auto photo = open(makePhoto(
-        folder, "a.jpg", {{"XMP:Title", "old"}, {"EXIF:GPSLatitude", 10}, {"EXIF:GPSLatitudeRef", "S"}}));
-    photo->setValueForKey("title", "new");
-    photo->setValueForKey("latitude", *KTDecimal::fromText("33.8"));
-    photo->setValueForKey("caption", "c");
-    EXPECT_TRUE(photo->hasUnsavedChanges());
-    photo->setValueForKey("title", "old");
-    photo->setValueForKey("latitude", -10);
-    photo->setValueForKey("caption", {});
-    EXPECT_FALSE(photo->hasUnsavedChanges());
-    photo->setValueForKey("cameraMake", "read-only");
-    EXPECT_FALSE(photo->hasUnsavedChanges());
-}
-
-TEST_F(Photo, GeotagsThroughOneSafeWrite) {
+TEST_F(PhotoSaving, GeotagsThroughOneSafeWrite) {
     auto file = makePhoto(folder, "a.jpg", {{"EXIF:Make", "Canon"}, {"EXIF:GPSAltitude", 7}});
     auto photo = open(file);
     photo->setLocationCreatedFromPoint(basel());
     photo->saveWithBackupToFolder(std::nullopt);
-    EXPECT_FALSE(photo->hasUnsavedChanges()) << photo->photoOperations().back().resultDescription();
-    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Success)
-        << photo->photoOperations().back().resultDescription();
+    EXPECT_FALSE(photo->hasUnsavedChanges()) << lastWrite(photo).resultDescription();
+    EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Success)
+        << lastWrite(photo).resultDescription();
 
     KTTagDictionary tags = tagsOf(file);
     auto shown = [&](const char* key) { return tags.valueForKey(key).description(); };
@@ -106,7 +55,7 @@ TEST_F(Photo, GeotagsThroughOneSafeWrite) {
     EXPECT_EQ(shown("EXIF:GPSAltitude"), "12.5") << "and one without elevation leaves the altitude";
 }
 
-TEST_F(Photo, WritesWhereTheStyleSays) {
+TEST_F(PhotoSaving, WritesWhereTheStyleSays) {
     struct Case {
         int style;
         bool image, sidecar;
@@ -135,7 +84,7 @@ TEST_F(Photo, WritesWhereTheStyleSays) {
     EXPECT_FALSE(saveTargets("a.jpg", 9, true).xmpSidecar || saveTargets("a.jpg", 9, true).imageFile);
 }
 
-TEST_F(Photo, AnExistingSidecarIsEditedNotRebuilt) {
+TEST_F(PhotoSaving, AnExistingSidecarIsEditedNotRebuilt) {
     setStyle(2);
     auto file = makePhoto(folder, "a.jpg");
     auto sidecar = folder.file("a.xmp", R"(<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?>
@@ -155,14 +104,16 @@ TEST_F(Photo, AnExistingSidecarIsEditedNotRebuilt) {
     EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Title"), KTValue("New"));
 }
 
-TEST_F(Photo, AFailedSaveLeavesTheFileAndTheChanges) {
+TEST_F(PhotoSaving, AFailedSaveLeavesTheFileAndTheChanges) {
     auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}});
     const std::string before = contentOf(file);
     auto photo = open(file);
     photo->setValueForKey("title", "new");
     photo->saveWithBackupToFolder(folder / "no such folder");
-    EXPECT_EQ(photo->photoOperations().back().operationDescription, "Copy original image to backup folder");
-    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Failure);
+    const KTPhotoOperation failed = *photo->lastPhotoOperation();
+    EXPECT_EQ(failed.operationDescription, "Copy original image to backup folder");
+    EXPECT_EQ(failed.resultType(), KTPhotoOperation::Failure);
+    EXPECT_EQ(failed.failureReason, 1U);
     EXPECT_TRUE(photo->hasUnsavedChanges());
     EXPECT_EQ(contentOf(file), before);
     EXPECT_TRUE(photo->valueForKey("metadataDate").isAbsent()) << "the stamps are withdrawn";
@@ -174,22 +125,22 @@ TEST_F(Photo, AFailedSaveLeavesTheFileAndTheChanges) {
     EXPECT_TRUE(leftNothingBehind(folder, 1));
 }
 
-TEST_F(Photo, WhenOnlyTheSidecarFailsTheImageCountsAsWrittenAndTheSidecarStaysPending) {
+TEST_F(PhotoSaving, WhenOnlyTheSidecarFailsTheImageCountsAsWrittenAndTheSidecarStaysPending) {
     setStyle(3);
     auto file = makePhoto(folder, "a.jpg");
     auto sidecar = folder.file("a.xmp", std::string_view("\1\2\3\4\0\6", 6));
     auto photo = open(file);
     photo->setValueForKey("title", "new");
     photo->saveWithBackupToFolder(std::nullopt);
-    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Failure);
-    EXPECT_TRUE(photo->imageSource().changes.empty());
-    EXPECT_TRUE(photo->sidecarSource().changes.find("XMP:Title"));
+    EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Failure);
+    EXPECT_TRUE(photo->source(KTMetadataSource::Image).changes.empty());
+    EXPECT_TRUE(photo->source(KTMetadataSource::Sidecar).changes.find("XMP:Title"));
     EXPECT_TRUE(photo->valueForKey("metadataDate").isSomething()) << "the image holds the stamp";
     EXPECT_EQ(tagsOf(file).valueForKey("XMP:Title"), KTValue("new"));
     EXPECT_EQ(contentOf(sidecar).size(), 6U);
 }
 
-TEST_F(Photo, KeepsBackupsAndModificationDates) {
+TEST_F(PhotoSaving, KeepsBackupsAndModificationDates) {
     KTUserDefaults::standardUserDefaults().setValue("defaultShouldPreserveModificationDate", true);
     auto file = makePhoto(folder, "a.jpg");
     const std::string before = contentOf(file);
@@ -207,17 +158,17 @@ TEST_F(Photo, KeepsBackupsAndModificationDates) {
     EXPECT_TRUE(std::filesystem::exists(folder / "backup/a-1.jpg"));
 }
 
-TEST_F(Photo, AValueThatTheFormatCannotHoldStaysPendingWithAWarning) {
+TEST_F(PhotoSaving, AValueThatTheFormatCannotHoldStaysPendingWithAWarning) {
     auto file = makePhoto(folder, "a.jpg", {{"IPTC:By-line", KTValue::listOfTexts({"old"})}});
     auto photo = open(file);
     photo->setValueForKey("creator", "Řž");
     photo->saveWithBackupToFolder(std::nullopt);
-    EXPECT_EQ(photo->photoOperations().back().resultType(), KTPhotoOperation::Warning);
-    EXPECT_NE(photo->photoOperations().back().resultDescription().find("IPTC:By-line"), std::string::npos);
+    EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Warning);
+    EXPECT_NE(lastWrite(photo).resultDescription().find("IPTC:By-line"), std::string::npos);
     EXPECT_EQ(tagsOf(file).valueForKey("XMP:Creator").description(), "Řž");
 }
 
-TEST_F(Photo, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) {
+TEST_F(PhotoSaving, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) {
     auto file = makePhoto(
         folder, "a.jpg",
         {{"IPTC:Headline", "iptc headline"}, {"XMP:Headline", "xmp headline"}, {"IPTC:ObjectName", "t"}});
@@ -227,8 +178,8 @@ TEST_F(Photo, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) {
     tool.evaluate("$exifTool->SetNewValue('Photoshop:IPTCDigest', '0' x 32, Protected => 1);");
     ASSERT_TRUE(tool.writeResultToFile(file).operationDidSucceed);
     auto photo = open(file);
-    ASSERT_TRUE(photo->imageSource().properties.hasIPTCChecksum &&
-                !photo->imageSource().properties.iptcChecksumDoesMatch);
+    ASSERT_TRUE(photo->source(KTMetadataSource::Image).properties.hasIPTCChecksum &&
+                !photo->source(KTMetadataSource::Image).properties.iptcChecksumDoesMatch);
     ASSERT_EQ(photo->valueForKey("headline"), KTValue("iptc headline"));
     photo->setValueForKey("title", "new");
     photo->saveWithBackupToFolder(std::nullopt);
@@ -260,12 +211,12 @@ TEST(WrittenValues, ComparesWithWhatTheFormatsGiveBack) {
     EXPECT_EQ(missing, (std::set<std::string>{"XMP:Headline", "XMP:Label", "XMP:Owner"}));
 }
 
-TEST_F(Photo, ADateOfTheThumbnailsDirectoryDoesNotHideThatTheWriteArrived) {
+TEST_F(PhotoSaving, ADateOfTheThumbnailsDirectoryDoesNotHideThatTheWriteArrived) {
     auto file =
         makePhoto(folder, "a.tif", {{"IFD1:ModifyDate", "1999:01:01 00:00:00"}, {"IFD1:ImageWidth", 1}});
     auto photo = open(file);
     photo->setValueForKey("title", "new");
     photo->saveWithBackupToFolder(std::nullopt);
-    EXPECT_EQ(photo->photoOperations().back().resultDescription(), "");
+    EXPECT_EQ(lastWrite(photo).resultDescription(), "");
     EXPECT_FALSE(photo->hasUnsavedChanges());
 }

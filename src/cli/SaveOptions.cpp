@@ -1,0 +1,26 @@
+#include "cli/SaveOptions.h"
+
+#include "platform/defaults/KTUserDefaults.h"
+
+#include <CLI/CLI.hpp>
+
+void SaveOptions::addTo(CLI::App& parser) {
+    parser
+        .add_option("--sidecar-style", sidecarStyle,
+                    "0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists")
+        ->check(CLI::Range(0, 4));
+    parser.add_option("--backup", folder, "Keep backups there")->check(CLI::ExistingDirectory);
+    parser.add_flag("--preserve-date", preservesDate, "Keep the files' modification dates");
+}
+
+void SaveOptions::apply() const {
+    KTUserDefaults& defaults = KTUserDefaults::standardUserDefaults();
+    if (preservesDate)
+        defaults.setValueForThisRun("defaultShouldPreserveModificationDate", true);
+    if (sidecarStyle)
+        defaults.setValueForThisRun("defaultXMPSidecarStyle", std::int64_t(*sidecarStyle));
+}
+
+std::optional<std::filesystem::path> SaveOptions::backupFolder() const {
+    return folder.empty() ? std::nullopt : std::optional<std::filesystem::path>(folder);
+}

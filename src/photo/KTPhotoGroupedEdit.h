@@ -1,0 +1,7 @@
+#pragma once
+#include "photo/KTPhoto.h"
+
+struct KTPhoto::GroupedEdit {
+    KTValue::Dictionary values;
+    std::map<KTPhotoDateFamily::Which, KTPhotoDateFamily::Reading> dates;
+};

@@ -186,6 +186,109 @@ TEST_F(PhotoSaving, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) 
     EXPECT_EQ(open(file)->valueForKey("headline"), KTValue("iptc headline"));
 }
 
+TEST_F(PhotoSaving, AFileThatAnotherProgramChangedKeepsWhatThatProgramWrote) {
+    auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}, {"XMP:Label", "old"}});
+    auto photo = open(file);
+    photo->setValueForKey("title", "ours");
+    photo->setValueForKey("caption", "ours");
+    KTExifTool::sharedExifTool().setValuesForKeysWithDictionary({{"XMP:Title", "theirs"},
+                                                                 {"XMP:Label", "theirs"},
+                                                                 {"XMP:Rating", 4},
+                                                                 {"EXIF:ImageDescription", "theirs"},
+                                                                 {"IPTC:Caption-Abstract", "theirs"}},
+                                                                file);
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Warning);
+    EXPECT_EQ(lastWrite(photo).resultDescription(), "The file had changed since it was read.");
+    const KTTagDictionary tags = tagsOf(file);
+    EXPECT_EQ(tags.valueForKey("XMP:Title"), KTValue("ours"));
+    EXPECT_EQ(tags.valueForKey("XMP:Label"), KTValue("theirs"));
+    EXPECT_EQ(tags.valueForKey("XMP:Rating").description(), "4");
+    for (const char* key : {"EXIF:ImageDescription", "IPTC:Caption-Abstract", "XMP:Description"})
+        EXPECT_EQ(tags.valueForKey(key), KTValue("ours")) << key << ": blocks that were not there before";
+    EXPECT_EQ(photo->valueForKey("label"), KTValue("theirs")) << "what was not edited follows the file";
+    EXPECT_TRUE(photo->modifiedKeyValues().empty());
+
+    // A file that was only touched is no matter.
+    std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now());
+    photo->setValueForKey("title", "again");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Success)
+        << lastWrite(photo).resultDescription();
+}
+
+TEST_F(PhotoSaving, ASidecarThatAnotherProgramMadeMeanwhileIsEdited) {
+    setStyle(2);
+    auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "image"}, {"XMP:Label", "image"}});
+    auto photo = open(file);
+    photo->setValueForKey("title", "ours");
+    auto sidecar = folder / "a.xmp";
+    KTExifTool::sharedExifTool().setValuesForKeysWithDictionary({{"XMP:Rating", 3}}, sidecar,
+                                                                makePhoto(folder, "empty.jpg"));
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Title"), KTValue("ours"));
+    EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Rating").description(), "3");
+    EXPECT_FALSE(tagsOf(sidecar).find("XMP:Label")) << "it is theirs, not built from the image";
+    EXPECT_EQ(photo->valueForKey("rating").number(), KTDecimal::fromInteger(3));
+
+    std::filesystem::remove(sidecar); // and one that vanished is made from the image
+    photo->setValueForKey("caption", "c");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Label"), KTValue("image"));
+    EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Title"), KTValue("ours"));
+}
+
+TEST_F(PhotoSaving, TwoPhotosThatShareASidecarLoseNothingOfEachOther) {
+    setStyle(2);
+    auto first = open(makePhoto(folder, "a.jpg")), second = open(makePhoto(folder, "a.tif"));
+    first->setValueForKey("title", "first");
+    second->setValueForKey("caption", "second");
+    first->saveWithBackupToFolder(std::nullopt);
+    second->saveWithBackupToFolder(std::nullopt);
+    first->setValueForKey("label", "first");
+    first->saveWithBackupToFolder(std::nullopt);
+    const KTTagDictionary tags = tagsOf(folder / "a.xmp");
+    EXPECT_EQ(tags.valueForKey("XMP:Title"), KTValue("first"));
+    EXPECT_EQ(tags.valueForKey("XMP:Description"), KTValue("second"));
+    EXPECT_EQ(tags.valueForKey("XMP:Label"), KTValue("first"));
+}
+
+TEST_F(PhotoSaving, TheCreationDateIsKeptAndMakesThePhotoUnsavedByItself) {
+    auto file = makePhoto(folder, "a.jpg");
+    const KTValue wish = KTInstantFromMilliseconds(1401616800000);
+    auto photo = open(file);
+    const KTValue original = photo->valueForKey("creationDate");
+    photo->setValueForKey("creationDate", wish);
+    EXPECT_TRUE(photo->unsavedFile() && photo->hasUnsavedChanges());
+    photo->setValueForKey("creationDate", original);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    photo->setValueForKey("creationDate", wish);
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    const KTPhotoOperation kept = operation(photo, "Set the creation date");
+    if (kept.resultType() == KTPhotoOperation::Warning)
+        GTEST_SKIP() << "this file system has no extended attributes: " << kept.resultDescription();
+    EXPECT_EQ(kept.resultType(), KTPhotoOperation::Success);
+    EXPECT_EQ(open(file)->valueForKey("creationDate"), wish);
+    photo->setValueForKey("title", "t");
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_EQ(open(file)->valueForKey("creationDate"), wish) << "another save keeps it";
+}
+
+TEST_F(PhotoSaving, AnUnobservedPhotoIsStampedToo) {
+    auto file = makePhoto(folder, "a.jpg");
+    auto tracked = open(file);
+    tracked->setValueForKey("title", "t");
+    auto photo = tracked.photo;
+    tracked.tracker.reset();
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_TRUE(tagsOf(file).find("XMP:MetadataDate") && tagsOf(file).find("XMP:ModifyDate"));
+    EXPECT_EQ(photo->valueForKey("fileSize").number(),
+              KTDecimal::fromInteger(std::int64_t(std::filesystem::file_size(file))));
+}
+
 TEST(WrittenValues, ComparesWithWhatTheFormatsGiveBack) {
     KTTagDictionary written{{"EXIF:GPSLatitude", *KTDecimal::fromText("47.9648628230")},
                             {"EXIF:ModifyDate", "2014:06:01 12:00:00+02:00"},

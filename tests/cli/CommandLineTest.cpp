@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 #include <set>
+#include <sys/stat.h>
 
 namespace {
 
@@ -117,6 +118,36 @@ TEST_F(CommandLine, ReadsAndSetsPhotos) {
     EXPECT_FALSE(tagsOf(folder / "a.jpg").find("XMP:Title"));
     Result text = run({"read", "a.jpg"});
     EXPECT_NE(text.output.find("Rating: 3"), std::string::npos) << text.output;
+}
+
+TEST_F(CommandLine, SavesAsTheOptionsSay) {
+    const auto photo = makePhoto(folder, "a.jpg", {{"XMP:Label", "l"}});
+    const std::string before = contentOf(photo);
+    std::filesystem::create_directory(folder / "backup");
+    const auto modified = std::filesystem::last_write_time(photo) - std::chrono::hours(48);
+    std::filesystem::last_write_time(photo, modified);
+    EXPECT_EQ(run({"set", "--sidecar-style", "2", "title=t", "a.jpg"}).status, 0);
+    EXPECT_EQ(contentOf(photo), before);
+    EXPECT_EQ(tagsOf(folder / "a.xmp").valueForKey("XMP:Label"), KTValue("l"));
+    EXPECT_EQ(run({"set", "--sidecar-style", "3", "--backup", "backup", "--preserve-date", "title=u",
+                   "creationDate=2014-06-01 12:00:00", "a.jpg"})
+                  .status,
+              0);
+    EXPECT_EQ(contentOf(folder / "backup/a.jpg"), before);
+    EXPECT_EQ(tagsOf(folder / "backup/a.xmp").valueForKey("XMP:Title"), KTValue("t"));
+    EXPECT_EQ(tagsOf(photo).valueForKey("XMP:Title"), KTValue("u"));
+    EXPECT_EQ(tagsOf(folder / "a.xmp").valueForKey("XMP:Title"), KTValue("u"));
+    EXPECT_EQ(std::filesystem::last_write_time(photo), modified);
+
+    makePhoto(folder, "b.jpg");
+    ASSERT_EQ(::mkfifo((folder / "b.xmp").c_str(), 0600), 0);
+    const Result result = run({"--json", "read", "--only", "properties", "a.jpg", "b.jpg"});
+    EXPECT_EQ(result.status, 1) << "the second one's sidecar is no file";
+    const QJsonArray photos = result.json()["photos"].toArray();
+    EXPECT_TRUE(photos[0]["valid"].toBool());
+    EXPECT_FALSE(photos[1]["valid"].toBool(true));
+    EXPECT_EQ(photos[1]["operations"].toArray().last()["description"].toString(),
+              "Read from sidecar file URL.");
 }
 
 TEST_F(CommandLine, KeepsATrackLibrary) {

@@ -4,8 +4,9 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <set>
+#include <ranges>
 #include <shared_mutex>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -15,16 +16,18 @@ namespace {
 struct Registry {
     std::mutex mutex;
     std::map<fs::path, std::weak_ptr<std::shared_mutex>> locks;
-    std::set<KTFilePresenter*> presenters;
+    std::multimap<fs::path, KTFilePresenter*> presenters; // by their files: a library has many
 
     static Registry& shared() {
-        static Registry registry;
-        return registry;
+        static Registry* registry = new Registry; // used until the last static object is gone
+        return *registry;
     }
 
     std::shared_ptr<std::shared_mutex> lockOf(const fs::path& file) {
         std::error_code error;
-        const fs::path key = fs::weakly_canonical(file, error);
+        fs::path key = fs::weakly_canonical(fs::absolute(file, error), error);
+        if (error) // a circle of links, for example
+            key = file;
         std::lock_guard guard(mutex);
         std::weak_ptr<std::shared_mutex>& entry = locks[key];
         std::shared_ptr<std::shared_mutex> lock = entry.lock();
@@ -39,20 +42,39 @@ struct Registry {
         }
         return lock;
     }
+
+    auto placeOf(const KTFilePresenter& presenter) {
+        const auto [begin, end] = presenters.equal_range(presenter.presentedItemURL());
+        const auto place =
+            std::find_if(begin, end, [&](const auto& entry) { return entry.second == &presenter; });
+        return place == end ? presenters.end() : place;
+    }
 };
+
+/// Why @p file cannot be read as a file, 0 when it can. Folders and pipes that bear a photo's name would fail
+/// later, or keep the reader waiting.
+int errorOfOpening(const fs::path& file) {
+    const KTFileDescriptor opened(file, O_RDONLY | O_NONBLOCK);
+    struct stat status = {};
+    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0)
+        return errno;
+    return S_ISREG(status.st_mode) ? 0 : S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+}
 
 } // namespace
 
 void KTFileCoordinator::addFilePresenter(KTFilePresenter& presenter) {
     Registry& registry = Registry::shared();
     std::lock_guard guard(registry.mutex);
-    registry.presenters.insert(&presenter);
+    if (registry.placeOf(presenter) == registry.presenters.end())
+        registry.presenters.emplace(presenter.presentedItemURL(), &presenter);
 }
 
 void KTFileCoordinator::removeFilePresenter(KTFilePresenter& presenter) {
     Registry& registry = Registry::shared();
     std::lock_guard guard(registry.mutex);
-    registry.presenters.erase(&presenter);
+    if (const auto place = registry.placeOf(presenter); place != registry.presenters.end())
+        registry.presenters.erase(place);
 }
 
 std::optional<std::string>
@@ -60,9 +82,8 @@ KTFileCoordinator::coordinateReadingItemAtURL(const fs::path& file,
                                               const std::function<void(const fs::path&)>& read) const {
     const auto access = Registry::shared().lockOf(file);
     std::shared_lock guard(*access);
-    // A pipe that bears a photo's name must not keep us waiting.
-    if (!KTFileDescriptor(file, O_RDONLY | O_NONBLOCK).isOpen())
-        return KTFileErrorText("“%@” cannot be opened: %@", file, errno);
+    if (const int error = errorOfOpening(file))
+        return KTFileErrorText("“%@” cannot be opened: %@", file, error);
     read(file);
     return std::nullopt;
 }
@@ -83,11 +104,12 @@ std::optional<std::string> KTFileCoordinator::coordinateWritingItemAtURL(
 void KTFileCoordinator::tellPresenters(const fs::path& file) const {
     Registry& registry = Registry::shared();
     std::lock_guard guard(registry.mutex); // a presenter that is being removed is told before or not at all
-    for (KTFilePresenter* presenter : registry.presenters) {
+    const auto [begin, end] = registry.presenters.equal_range(file);
+    for (KTFilePresenter* presenter : std::ranges::subrange(begin, end) | std::views::values) {
         const bool isOwn = ownPresenter != nullptr &&
                            (presenter == ownPresenter ||
                             presenter->primaryPresentedItemURL() == ownPresenter->presentedItemURL());
-        if (!isOwn && presenter->presentedItemURL() == file)
+        if (!isOwn)
             presenter->presentedItemOperationQueue().addOperationWithBlock(
                 [presenter] { presenter->presentedItemDidChange(); });
     }

@@ -10,13 +10,13 @@ public:
     /// file.
     explicit KTFileCoordinator(const KTFilePresenter* owner = nullptr) : ownPresenter(owner) {}
 
-    /// From now on @p presenter is told when its file was written, until it is removed. Adding twice counts
-    /// once.
+    /// From now on @p presenter is told when its file was written, until it is removed; its file must stay
+    /// the same meanwhile. Adding twice counts once.
     static void addFilePresenter(KTFilePresenter& presenter);
     static void removeFilePresenter(KTFilePresenter& presenter);
 
     /// Calls @p read with the file to read. Returns an error text, and does not call, when the file is not
-    /// there or may not be read.
+    /// there, is no file, or may not be read.
     std::optional<std::string>
     coordinateReadingItemAtURL(const std::filesystem::path& file,
                                const std::function<void(const std::filesystem::path&)>& read) const;

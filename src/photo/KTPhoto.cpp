@@ -148,14 +148,6 @@ void KTPhoto::setStoredValue(const KTPhotoProperty& property, const KTValue& val
         didChange(property.alsoChanges);
 }
 
-bool KTPhoto::isGeotagged() const {
-    return valueForKey("latitude").isSomething() && valueForKey("longitude").isSomething();
-}
-
-bool KTPhoto::hasLatitudeLongitudeShown() const {
-    return valueForKey("latitudeShown").isSomething() && valueForKey("longitudeShown").isSomething();
-}
-
 void KTPhoto::removeAllGPSValues() {
     for (const char* key :
          {"latitude", "longitude", "altitude", "gpsDateTime", "gpsMapDatum", "gpsVersionID"})

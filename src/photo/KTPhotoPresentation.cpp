@@ -38,6 +38,16 @@ std::optional<KTMapPoint> KTPhoto::positionOf(std::string_view longitude, std::s
     return KTMapPoint{x->toDouble(), y->toDouble()};
 }
 
+bool KTPhoto::isGeotagged() const {
+    std::lock_guard guard(mutex);
+    return positionOf("longitude", "latitude").has_value();
+}
+
+bool KTPhoto::hasLatitudeLongitudeShown() const {
+    std::lock_guard guard(mutex);
+    return positionOf("longitudeShown", "latitudeShown").has_value();
+}
+
 std::string KTPhoto::imageSubtitle() const {
     std::lock_guard guard(mutex);
     const auto position = positionOf("longitude", "latitude");

@@ -4,6 +4,8 @@
 #include "photo/KTPhoto.h"
 #include "platform/common/KTText.h"
 
+#include <charconv>
+
 namespace {
 
 using Which = KTPhotoDateFamily::Which;
@@ -17,10 +19,13 @@ KTValue roundedDecimal(const KTValue& value) {
 
 /// A rating passes through a single-precision number, as other programs keep it.
 KTValue ratingDecimal(const KTValue& value) {
-    auto number = value.number();
-    return number ? KTValue(KTMetadataField::roundingBehavior(
-                        KTDecimal::fromDouble(static_cast<float>(number->toDouble()))))
-                  : value;
+    const auto number = value.number();
+    if (!number)
+        return value;
+    std::array<char, 32> text = {};
+    const auto end = std::to_chars(text.begin(), text.end(), static_cast<float>(number->toDouble())).ptr;
+    const auto rating = KTDecimal::fromText({text.data(), end});
+    return rating ? KTValue(KTMetadataField::roundingBehavior(*rating)) : KTValue();
 }
 
 KTValue dictionary(const KTTagDictionary& tags) {

@@ -6,6 +6,7 @@
 struct KTCallContext {
     const class KTCallMark* marks = nullptr;
     int calloutDepth = 0;
+    int heldLeafQueues = 0;
 
     /// The context of the calling thread.
     static KTCallContext& current();

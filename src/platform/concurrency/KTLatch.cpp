@@ -19,6 +19,10 @@ bool KTLatch::hasHappened() {
 void KTLatch::wait() {
     if (KTMainThread::isCurrent())
         return KTMainThread::serveCallsUntil([this] { return hasHappened(); });
+    waitWithoutServing();
+}
+
+void KTLatch::waitWithoutServing() {
     std::unique_lock lock(mutex);
     happened.wait(lock, [this] { return isSignalled; });
 }

@@ -10,6 +10,8 @@ public:
     /// for it has returned.
     void signal();
     void wait();
+    /// The same, but the main thread serves nobody: for what surely happens without it.
+    void waitWithoutServing();
 
 private:
     bool hasHappened();

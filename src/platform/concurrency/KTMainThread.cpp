@@ -37,11 +37,12 @@ public:
 private:
     class Receiver : public QObject {
     public:
-        bool event(QEvent* event) override;
+        void customEvent(QEvent* event) override;
     };
 
     void wakeEventLoop(); // the mutex must be held
     static void run(WaitingCall& call);
+    static void runPosted(const std::function<void()>& call);
 
     std::mutex mutex;
     std::condition_variable changed;
@@ -52,11 +53,10 @@ private:
     bool isClosed = false;
 };
 
-bool MainCalls::Receiver::event(QEvent* event) {
-    if (event->type() != QEvent::User)
-        return QObject::event(event);
+/// The only event ever posted to it. It is not looked into: Qt's own locks, which order it after its making,
+/// are invisible to ThreadSanitizer.
+void MainCalls::Receiver::customEvent(QEvent*) {
     shared().serveFromEventLoop();
-    return true;
 }
 
 void MainCalls::wakeEventLoop() {
@@ -82,6 +82,15 @@ void MainCalls::run(WaitingCall& call) {
     context = own;
     call.wasRun = true;
     call.ended.signal();
+}
+
+/// In an event loop within a call, that call's marks are not those of @p call. It is still beneath on the
+/// stack, so that a callout stays one.
+void MainCalls::runPosted(const std::function<void()>& call) {
+    KTCallContext& context = KTCallContext::current();
+    const KTCallMark* const own = std::exchange(context.marks, nullptr);
+    call();
+    context.marks = own;
 }
 
 bool MainCalls::performAndWait(const std::function<void()>& call) {
@@ -127,6 +136,8 @@ void MainCalls::serveFromEventLoop() {
     eventIsPosted = false;
     // What is posted meanwhile comes with an event of its own, so that the loop gets its turn.
     for (std::size_t count = posted.size(); !waiting.empty() || (count > 0 && !posted.empty());) {
+        if (waiting.size() + posted.size() > 1)
+            wakeEventLoop(); // the rest must not wait for an event loop that the call itself may run
         if (!waiting.empty()) {
             WaitingCall* call = waiting.front();
             waiting.pop_front();
@@ -137,7 +148,8 @@ void MainCalls::serveFromEventLoop() {
             posted.pop_front();
             --count;
             lock.unlock();
-            call();
+            runPosted(call);
+            call = nullptr;
         }
         lock.lock();
     }
@@ -150,11 +162,12 @@ void MainCalls::wake() {
 
 void MainCalls::close() {
     std::list<WaitingCall*> cancelled;
+    std::list<std::function<void()>> dropped; // outside the lock
     {
         std::lock_guard guard(mutex);
         isClosed = true;
         cancelled.swap(waiting);
-        posted.clear();
+        dropped.swap(posted);
     }
     for (WaitingCall* call : cancelled)
         call->ended.signal();
@@ -180,6 +193,7 @@ void KTMainThread::wake() {
 }
 
 bool KTPerformOnMainThreadAndWait(const std::function<void()>& call) {
+    assert(KTCallContext::current().heldLeafQueues == 0 && "a leaf queue's task needs the main thread");
     if (!KTMainThread::isCurrent())
         return MainCalls::shared().performAndWait(call);
     call();

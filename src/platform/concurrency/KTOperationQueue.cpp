@@ -1,6 +1,9 @@
 #include "platform/concurrency/KTOperationQueue.h"
 
+#include "platform/concurrency/KTCallContext.h"
 #include "platform/concurrency/KTThreadPool.h"
+
+#include <cassert>
 
 namespace {
 
@@ -25,20 +28,21 @@ void KTOperationQueue::addOperations(std::vector<std::shared_ptr<KTOperation>> o
     if (operations.empty())
         return;
     willChange(kOperationCount);
+    std::size_t newWorkers = 0;
     {
         std::lock_guard guard(mutex);
         std::ranges::move(operations, std::back_inserter(pending));
-        startWorkers();
+        newWorkers = std::min(width, running.size() + pending.size());
+        newWorkers -= std::min(newWorkers, workers);
+        workers += newWorkers;
     }
+    for (; newWorkers > 0; --newWorkers)
+        KTRunOnThreadPool([this] { work(); });
     didChange(kOperationCount);
 }
 
-void KTOperationQueue::startWorkers() {
-    for (; workers < width && workers < running.size() + pending.size(); ++workers)
-        KTRunOnThreadPool([this] { work(); });
-}
-
 void KTOperationQueue::work() {
+    const KTCallMark mark(&workers);
     std::unique_lock lock(mutex);
     while (!pending.empty()) {
         auto place = running.insert(running.end(), std::move(pending.front()));
@@ -48,10 +52,11 @@ void KTOperationQueue::work() {
         operation.start();
         willChange(kOperationCount);
         lock.lock();
-        const std::shared_ptr<KTOperation> ended = std::move(*place); // dropped outside the lock
+        std::shared_ptr<KTOperation> ended = std::move(*place);
         running.erase(place);
         lock.unlock();
         didChange(kOperationCount);
+        ended = nullptr; // outside the lock: an operation may hold the last reference to anything
         lock.lock();
     }
     std::vector<KTLatch*> done;
@@ -81,6 +86,7 @@ void KTOperationQueue::waitUntilAllOperationsAreFinished() {
         std::lock_guard guard(mutex);
         if (workers == 0 && pending.empty())
             return;
+        assert(KTCallMark::count(&workers) == 0 && "an operation must not wait for its own queue");
         waits.push_back(&ended);
     }
     ended.wait();

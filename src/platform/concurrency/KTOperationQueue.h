@@ -21,11 +21,11 @@ public:
     void cancelAllOperations();
 
     std::size_t operationCount() const;
-    /// Not from an operation of this queue. The main thread serves the calls of other threads meanwhile.
+    /// Not from an operation of this queue (asserted). The main thread serves the calls of other threads
+    /// meanwhile.
     void waitUntilAllOperationsAreFinished();
 
 private:
-    void startWorkers(); // the mutex must be held
     void work();
 
     const std::size_t width;

@@ -7,7 +7,13 @@
 #include <cassert>
 
 KTSerialQueue::~KTSerialQueue() {
-    const Turn last(*this);
+    while (hasWork())
+        drain();
+}
+
+bool KTSerialQueue::hasWork() const {
+    std::lock_guard guard(mutex);
+    return isBusy;
 }
 
 bool KTSerialQueue::isHeldByThisThread() const {
@@ -16,25 +22,30 @@ bool KTSerialQueue::isHeldByThisThread() const {
 }
 
 void KTSerialQueue::hold() {
-    std::lock_guard guard(mutex);
     holder = std::this_thread::get_id();
+    KTCallContext::current().heldLeafQueues += kind == Kind::Leaf ? 1 : 0;
 }
 
 void KTSerialQueue::take() {
     assert((kind == Kind::Leaf || !KTCallout::isUnderWay()) &&
            "an observer must post to an announcing queue, not wait for it");
+    assert((isHeldByThisThread() || KTCallContext::current().heldLeafQueues == 0) &&
+           "a leaf queue's task must not wait for another queue");
     KTLatch turn;
     {
         std::lock_guard guard(mutex);
         assert(holder != std::this_thread::get_id() && "the thread holds this queue already");
         if (!isBusy) {
             isBusy = true;
-            holder = std::this_thread::get_id();
-            return;
+            return hold();
         }
         waiting.push_back({{}, &turn});
     }
-    turn.wait();
+    if (kind == Kind::Leaf)
+        turn.waitWithoutServing();
+    else
+        turn.wait();
+    std::lock_guard guard(mutex);
     hold();
 }
 
@@ -43,6 +54,7 @@ void KTSerialQueue::pass() {
     {
         std::lock_guard guard(mutex);
         holder = {};
+        KTCallContext::current().heldLeafQueues -= kind == Kind::Leaf ? 1 : 0;
         isBusy = !waiting.empty();
         if (!isBusy)
             return;
@@ -70,7 +82,10 @@ void KTSerialQueue::async(std::function<void()> task) {
 }
 
 void KTSerialQueue::runTasks(std::function<void()> first) {
-    hold();
+    {
+        std::lock_guard guard(mutex);
+        hold();
+    }
     first();
     first = nullptr;
     pass();

@@ -11,20 +11,23 @@ class KTLatch;
 class KTSerialQueue {
 public:
     enum class Kind {
-        Leaf,       ///< its tasks neither announce nor wait for the main thread or another queue
+        Leaf,       ///< its tasks neither announce nor wait for the main thread or another queue (asserted)
         Announcing, ///< its tasks may; code run by an announcement must not wait for such a queue
     };
 
     /// @p name must be a literal; it shows in debuggers.
     explicit KTSerialQueue(const char* name, Kind queueKind = Kind::Leaf) : label(name), kind(queueKind) {}
-    /// Waits for the tasks that are queued.
+    /// Waits for the tasks that are queued, and for those that they queue.
     ~KTSerialQueue();
     KTSerialQueue(const KTSerialQueue&) = delete;
     KTSerialQueue& operator=(const KTSerialQueue&) = delete;
 
     /// Runs @p task on the calling thread when everything queued before it is done, and returns what it
-    /// returns. The main thread serves the calls of other threads while it waits for its turn. A sync on the
-    /// queue that the thread holds already asserts, as does one on an announcing queue inside a callout.
+    /// returns. The main thread serves the calls of other threads while it waits for its turn on an
+    /// announcing queue. It does not for a leaf queue, whose tasks never need it: such a call could wait for
+    /// the same queue, and its turn would come after the one that the main thread is not ready to take. A
+    /// sync on the queue that the thread holds already asserts, as does one on an announcing queue inside a
+    /// callout.
     template<class Task>
     decltype(auto) sync(Task&& task) {
         const Turn turn(*this);
@@ -56,7 +59,8 @@ private:
 
     void take();
     void pass();
-    void hold();
+    void hold(); // the mutex must be held
+    bool hasWork() const;
     void runTasks(std::function<void()> first);
 
     const Kind kind;

@@ -5,6 +5,7 @@
 #include <condition_variable>
 #include <list>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -12,45 +13,67 @@ namespace {
 
 class Pool {
 public:
-    Pool() = default;
-    ~Pool();
-    Pool(const Pool&) = delete;
-    Pool& operator=(const Pool&) = delete;
-
+    static Pool& shared();
     void run(std::function<void()> job);
 
 private:
+    struct Ending {
+        ~Ending() { shared().end(); }
+    };
+
     void work();
+    void addThread(); // the mutex must be held
+    void end();
 
     std::mutex mutex;
-    std::condition_variable changed;
+    std::condition_variable changed, settled;
     std::list<std::function<void()>> jobs;
     std::size_t idle = 0;
+    std::size_t unfinished = 0; // jobs that wait or run
     bool isEnding = false;
     std::vector<std::thread> threads;
 };
 
-Pool::~Pool() {
+Pool& Pool::shared() {
+    static Pool* pool = new Pool; // used until the last static object is gone
+    static const Ending ending;
+    return *pool;
+}
+
+void Pool::end() {
     KTMainThread::close(); // a job must not wait for the thread that waits for it here
-    {
-        std::lock_guard guard(mutex);
-        isEnding = true;
-        jobs.clear();
-        changed.notify_all();
-    }
+    std::unique_lock lock(mutex);
+    settled.wait(lock, [this] { return unfinished == 0; });
+    isEnding = true;
+    changed.notify_all();
+    lock.unlock();
     for (std::thread& thread : threads)
         thread.join();
 }
 
 void Pool::run(std::function<void()> job) {
-    std::lock_guard guard(mutex);
-    if (isEnding)
-        return;
-    jobs.push_back(std::move(job));
-    if (idle < jobs.size())
+    {
+        std::lock_guard guard(mutex);
+        if (!isEnding) {
+            jobs.push_back(std::move(job));
+            ++unfinished;
+            if (idle < jobs.size())
+                addThread();
+            else
+                changed.notify_one();
+            return;
+        }
+    }
+    job();
+}
+
+void Pool::addThread() {
+    try {
         threads.emplace_back([this] { work(); });
-    else
-        changed.notify_one();
+    } catch (const std::system_error&) { // the system has no more; the job waits for one that we have
+        if (threads.empty())
+            throw;
+    }
 }
 
 void Pool::work() {
@@ -67,12 +90,13 @@ void Pool::work() {
         job();
         job = nullptr;
         lock.lock();
+        if (--unfinished == 0)
+            settled.notify_all();
     }
 }
 
 } // namespace
 
 void KTRunOnThreadPool(std::function<void()> job) {
-    static Pool pool;
-    pool.run(std::move(job));
+    Pool::shared().run(std::move(job));
 }

@@ -2,5 +2,6 @@
 #include <functional>
 
 /// Runs @p job soon on a thread that is kept for such work. A job that waits keeps no other from starting.
-/// At the end of the program jobs that run are waited for; those that are given later are dropped.
+/// At the end of the program all jobs that were given are finished, none of which the main thread serves any
+/// more; one that is given later still is run at once, on the calling thread. @p job must not throw.
 void KTRunOnThreadPool(std::function<void()> job);

@@ -1,11 +1,13 @@
 #include "platform/desktop/KTFileAttributes.h"
 
+#include "platform/common/KTText.h"
+
+#include <algorithm>
 #include <cerrno>
 #include <string>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
-#include <vector>
 
 namespace {
 
@@ -32,23 +34,28 @@ int copyPermissions(mode_t mode, bool groupIsKept, int toFile) {
     return ::fchmod(toFile, permissions) == 0 || isBeyondReach(errno) ? 0 : errno;
 }
 
-std::vector<std::string> attributeNames(int file) {
-    std::string names;
-    for (ssize_t size = ::flistxattr(file, nullptr, 0); size > 0; size = ::flistxattr(file, nullptr, 0)) {
-        names.resize(static_cast<std::size_t>(size));
-        size = ::flistxattr(file, names.data(), names.size());
-        if (size >= 0) {
+/// The names of all attributes of @p file, each with a zero byte behind it, into @p names; 0 or an error
+/// number.
+int listAttributes(int file, std::string& names) {
+    for (;;) {
+        ssize_t size = ::flistxattr(file, nullptr, 0);
+        if (size > 0) {
             names.resize(static_cast<std::size_t>(size));
-            break;
+            size = ::flistxattr(file, names.data(), names.size());
         }
-        names.clear();
-        if (errno != ERANGE) // else the list has grown meanwhile
-            break;
+        const int error = size < 0 ? errno : 0;
+        if (error == ERANGE) // the list has grown meanwhile
+            continue;
+        names.resize(static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
+        return isBeyondReach(error) ? 0 : error;
     }
-    std::vector<std::string> result;
-    for (std::size_t begin = 0; begin < names.size(); begin += result.back().size() + 1)
-        result.emplace_back(names.c_str() + begin);
-    return result;
+}
+
+/// Takes an access control list from a file that may have none; 0 or an error number.
+int removeAccessControlList(int file) {
+    const bool isGone = ::fremovexattr(file, kAccessControlList) == 0 || errno == ENODATA ||
+                        errno == EINVAL || isBeyondReach(errno);
+    return isGone ? 0 : errno;
 }
 
 int copyAttribute(const std::string& name, int from, int to) {
@@ -70,13 +77,17 @@ int KTCopyFileAttributes(int from, int to) {
     if (::fstat(from, &source) != 0 || ::fstat(to, &destination) != 0)
         return errno;
     const bool groupIsKept = copyOwnership(source, destination, to);
+    std::string names;
+    if (int error = listAttributes(from, names))
+        return error;
     // The user's attributes come first: permissions without writing would forbid them.
-    for (const std::string& name : attributeNames(from))
+    for (const std::string& name : KTSplit(names, '\0'))
         if (name.starts_with("user."))
             if (int error = copyAttribute(name, from, to))
                 return error;
     // A list that the folder gave to the new file would otherwise hold beside the permissions.
-    ::fremovexattr(to, kAccessControlList);
+    if (int error = removeAccessControlList(to))
+        return error;
     if (int error = copyPermissions(source.st_mode, groupIsKept, to))
         return error;
     return groupIsKept ? copyAttribute(kAccessControlList, from, to) : 0;

@@ -14,33 +14,18 @@ namespace {
 
 /// The access locks of the files that are in use, and the presenters.
 struct Registry {
+    struct Lock {
+        std::shared_mutex mutex;
+        int users = 0; // that hold it or wait for it
+    };
+
     std::mutex mutex;
-    std::map<fs::path, std::weak_ptr<std::shared_mutex>> locks;
+    std::map<fs::path, Lock> locks;
     std::multimap<fs::path, KTFilePresenter*> presenters; // by their files: a library has many
 
     static Registry& shared() {
         static Registry* registry = new Registry; // used until the last static object is gone
         return *registry;
-    }
-
-    std::shared_ptr<std::shared_mutex> lockOf(const fs::path& file) {
-        std::error_code error;
-        fs::path key = fs::weakly_canonical(fs::absolute(file, error), error);
-        if (error) // a circle of links, for example
-            key = file;
-        std::lock_guard guard(mutex);
-        std::weak_ptr<std::shared_mutex>& entry = locks[key];
-        std::shared_ptr<std::shared_mutex> lock = entry.lock();
-        if (!lock) {
-            lock = std::shared_ptr<std::shared_mutex>(new std::shared_mutex, [this, key](auto* ended) {
-                delete ended;
-                std::lock_guard guarded(mutex);
-                if (auto place = locks.find(key); place != locks.end() && place->second.expired())
-                    locks.erase(place);
-            });
-            entry = lock;
-        }
-        return lock;
     }
 
     auto placeOf(const KTFilePresenter& presenter) {
@@ -49,6 +34,34 @@ struct Registry {
             std::find_if(begin, end, [&](const auto& entry) { return entry.second == &presenter; });
         return place == end ? presenters.end() : place;
     }
+};
+
+/// The use of a file's lock.
+class Access {
+public:
+    explicit Access(const fs::path& file) {
+        std::error_code error;
+        fs::path key = fs::weakly_canonical(fs::absolute(file, error), error);
+        if (error) // a circle of links, for example
+            key = file;
+        Registry& registry = Registry::shared();
+        std::lock_guard guard(registry.mutex);
+        place = registry.locks.try_emplace(std::move(key)).first;
+        ++place->second.users;
+    }
+    ~Access() {
+        Registry& registry = Registry::shared();
+        std::lock_guard guard(registry.mutex);
+        if (--place->second.users == 0)
+            registry.locks.erase(place);
+    }
+    Access(const Access&) = delete;
+    Access& operator=(const Access&) = delete;
+
+    std::shared_mutex& mutex() const { return place->second.mutex; }
+
+private:
+    std::map<fs::path, Registry::Lock>::iterator place;
 };
 
 /// Why @p file cannot be read as a file, 0 when it can. Folders and pipes that bear a photo's name would fail
@@ -80,8 +93,8 @@ void KTFileCoordinator::removeFilePresenter(KTFilePresenter& presenter) {
 std::optional<std::string>
 KTFileCoordinator::coordinateReadingItemAtURL(const fs::path& file,
                                               const std::function<void(const fs::path&)>& read) const {
-    const auto access = Registry::shared().lockOf(file);
-    std::shared_lock guard(*access);
+    const Access access(file);
+    std::shared_lock guard(access.mutex());
     if (const int error = errorOfOpening(file))
         return KTFileErrorText("“%@” cannot be opened: %@", file, error);
     read(file);
@@ -92,8 +105,8 @@ std::optional<std::string> KTFileCoordinator::coordinateWritingItemAtURL(
     const fs::path& file, const std::function<std::optional<std::string>()>& write) const {
     std::optional<std::string> failure;
     {
-        const auto access = Registry::shared().lockOf(file);
-        std::lock_guard guard(*access);
+        const Access access(file);
+        std::lock_guard guard(access.mutex());
         failure = write();
     }
     if (!failure)

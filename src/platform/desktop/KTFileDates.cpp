@@ -11,15 +11,22 @@
 
 namespace {
 
+constexpr std::int64_t kLastSecond = INT64_MAX / 1'000'000'000 - 1; // that a KTFileDate can hold, either way
 constexpr const char* kCreationDate = "user.waymark.creation-date";
 
 std::optional<KTFileDate> keptCreationDate(const std::filesystem::path& file) {
-    std::array<char, 64> text = {};
-    const ssize_t size = ::getxattr(file.c_str(), kCreationDate, text.data(), text.size());
+    std::array<char, 64> buffer = {};
+    const ssize_t size = ::getxattr(file.c_str(), kCreationDate, buffer.data(), buffer.size());
     if (size <= 0)
         return std::nullopt;
-    auto reading = KTDateComponents::dateComponentsWithString({text.data(), static_cast<std::size_t>(size)});
-    return reading ? KTCalendar(KTTimeZone::utc()).dateFromComponents(*reading) : std::nullopt;
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(size));
+    const auto reading = KTDateComponents::dateComponentsWithString(text);
+    const auto date = reading ? KTCalendar(KTTimeZone::utc()).dateFromComponents(*reading) : std::nullopt;
+    // What was not written by KTSetCreationDate may mean anything.
+    if (!date || KTISO8601Text(*date) != text ||
+        std::chrono::abs(date->time_since_epoch()) > std::chrono::seconds(kLastSecond))
+        return std::nullopt;
+    return *date;
 }
 
 std::optional<KTFileDate> dateOf(const std::filesystem::path& file, unsigned wanted,
@@ -28,7 +35,6 @@ std::optional<KTFileDate> dateOf(const std::filesystem::path& file, unsigned wan
     if (::statx(AT_FDCWD, file.c_str(), 0, wanted, &status) != 0 || (status.stx_mask & wanted) == 0)
         return std::nullopt;
     const statx_timestamp& time = status.*member;
-    constexpr std::int64_t kLastSecond = INT64_MAX / 1'000'000'000 - 1;
     if (time.tv_sec < -kLastSecond || time.tv_sec > kLastSecond)
         return std::nullopt;
     return KTFileDate(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
@@ -47,17 +53,20 @@ std::optional<KTFileDate> KTCreationDate(const std::filesystem::path& file) {
 
 KTCreationDateOutcome KTSetCreationDate(const std::filesystem::path& file, KTFileDate date) {
     const auto wanted = std::chrono::floor<std::chrono::seconds>(date);
-    if (auto current = KTCreationDate(file);
-        current && std::chrono::floor<std::chrono::seconds>(*current) == wanted)
+    if (keptCreationDate(file) == wanted)
         return {};
     const std::string text = KTISO8601Text(wanted);
     if (::setxattr(file.c_str(), kCreationDate, text.data(), text.size(), 0) == 0)
         return {};
-    if (errno == ENOTSUP || errno == ENOSYS)
+    const int error = errno;
+    const auto current = KTCreationDate(file);
+    if (current && std::chrono::floor<std::chrono::seconds>(*current) == wanted)
+        return {}; // the file system says so by itself
+    if (error == ENOTSUP || error == ENOSYS)
         return {KTCreationDateOutcome::NoPlace,
-                KTFileErrorText("There is no place to keep the creation date of “%@”: %@", file, errno)};
+                KTFileErrorText("There is no place to keep the creation date of “%@”: %@", file, error)};
     return {KTCreationDateOutcome::Failed,
-            KTFileErrorText("The creation date of “%@” cannot be kept: %@", file, errno)};
+            KTFileErrorText("The creation date of “%@” cannot be kept: %@", file, error)};
 }
 
 std::optional<std::string> KTSetModificationDate(const std::filesystem::path& file, KTFileDate date) {

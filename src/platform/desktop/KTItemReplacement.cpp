@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
@@ -21,6 +22,7 @@ namespace {
 constexpr std::string_view kPrefix = ".waymark-";
 constexpr std::size_t kRandomLetters = 6;
 constexpr const char* kOwnerFile = ".waymark-owner";
+constexpr std::chrono::hours kLongerThanAnyReplacement(24);
 
 bool writeOwner(const fs::path& folder, const std::string& text) {
     KTFileDescriptor file(folder / kOwnerFile, O_WRONLY | O_CREAT | O_EXCL, 0600);
@@ -37,13 +39,20 @@ void removeReplacementFolder(const fs::path& folder) {
     fs::remove_all(folder, error);
 }
 
-/// A real folder of this user whose owner's process is gone.
+/// A real folder of this user whose owner's process is gone. One whose owner's name did not reach the disk
+/// (the process was killed just then, or the computer lost its power) counts once it is old.
 bool isLeftBehind(const fs::path& folder) {
     struct stat status = {};
     if (::lstat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) || status.st_uid != ::geteuid())
         return false;
     std::ifstream stream(folder / kOwnerFile, std::ios::binary);
-    return stream && KTProcessIdentity::fromText({std::istreambuf_iterator<char>(stream), {}}).isGone();
+    const auto owner = KTProcessIdentity::fromText({std::istreambuf_iterator<char>(stream), {}});
+    if (!owner.start.empty())
+        return owner.isGone();
+    std::error_code error;
+    const bool isOurs = stream.is_open() || fs::is_empty(folder, error);
+    const auto modified = std::chrono::system_clock::from_time_t(status.st_mtim.tv_sec);
+    return isOurs && std::chrono::system_clock::now() - modified > kLongerThanAnyReplacement;
 }
 
 void removeFoldersLeftBehind(const fs::path& parent) {

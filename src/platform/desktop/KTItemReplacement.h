@@ -7,8 +7,9 @@
 ///
 /// A process that is killed leaves its folder behind. Each folder therefore names its owner (host, run of the
 /// system, process and the process's start) in a file, and the first replacement that a process makes in a
-/// folder removes those folders there whose owner was of this host and user and is certainly gone. Nothing
-/// else is ever removed.
+/// folder removes those folders there whose owner was of this host and user and is certainly gone, and those
+/// of this user, unchanged for a day, that hold nothing or an owner's name cut off. Nothing else is ever
+/// removed.
 ///
 /// Any thread; two replacements of the same file do not meet.
 class KTItemReplacement {

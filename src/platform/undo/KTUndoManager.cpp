@@ -10,6 +10,7 @@ KTUndoManager::KTUndoManager(std::shared_ptr<KTSerialQueue> undoQueue) : queue(s
 
 KTUndoManager::~KTUndoManager() {
     finishPosted();
+    assert(onTheirWay == 0 && "destroyed where the undo queue cannot be waited for");
 }
 
 bool KTUndoManager::mayWaitForQueue() const {
@@ -21,6 +22,22 @@ void KTUndoManager::finishPosted() {
         queue->drain();
 }
 
+void KTUndoManager::post(std::function<void()> task) {
+    ++onTheirWay;
+    queue->async([this, task = std::move(task)] {
+        task();
+        --onTheirWay;
+    });
+}
+
+/// Makes a change after everything that was posted before.
+void KTUndoManager::inOrder(std::function<void()> change) {
+    if (queue && KTCallout::isUnderWay() && !queue->isHeldByThisThread())
+        return post(std::move(change));
+    finishPosted();
+    change();
+}
+
 void KTUndoManager::announceState() {
     didChange("undoState");
 }
@@ -29,7 +46,7 @@ void KTUndoManager::registerUndoWithTarget(const void* target, std::string actio
     Entry entry{target, std::move(action)};
     if (!queue || isUndoingOrRedoing() || queue->isHeldByThisThread())
         return enter(std::move(entry), std::move(actionName));
-    queue->async([this, entry = std::move(entry), name = std::move(actionName)]() mutable {
+    post([this, entry = std::move(entry), name = std::move(actionName)]() mutable {
         enter(std::move(entry), std::move(name));
     });
 }
@@ -54,27 +71,34 @@ void KTUndoManager::enter(Entry entry, std::string actionName) {
 }
 
 void KTUndoManager::beginUndoGrouping(std::string actionName) {
-    finishPosted();
-    std::lock_guard guard(mutex);
-    if (openGroups++ == 0)
-        open = {};
-    if (!actionName.empty() && !open.keepsName) {
-        open.name = std::move(actionName);
-        open.keepsName = true;
-    }
+    if (isUndoingOrRedoing())
+        return;
+    inOrder([this, name = std::move(actionName)] {
+        {
+            std::lock_guard guard(mutex);
+            if (openGroups++ == 0)
+                open = {};
+            if (!name.empty() && !open.keepsName) {
+                open.name = name;
+                open.keepsName = true;
+            }
+        }
+        announceState();
+    });
 }
 
 void KTUndoManager::endUndoGrouping() {
-    finishPosted();
-    {
-        std::lock_guard guard(mutex);
-        assert(openGroups > 0);
-        if (--openGroups > 0 || open.entries.empty())
-            return;
-        undoSteps.push_back(std::move(open));
-        open = {};
-    }
-    announceState();
+    if (isUndoingOrRedoing())
+        return;
+    inOrder([this] {
+        {
+            std::lock_guard guard(mutex);
+            assert(openGroups > 0);
+            if (--openGroups == 0 && !open.entries.empty())
+                undoSteps.push_back(std::exchange(open, {}));
+        }
+        announceState();
+    });
 }
 
 bool KTUndoManager::undo() {
@@ -87,19 +111,18 @@ bool KTUndoManager::redo() {
 
 bool KTUndoManager::run(Steps& from, Steps& into, const void* meaning) {
     finishPosted();
-    Step step;
     {
         std::lock_guard guard(mutex);
         if (openGroups > 0 || isRunning || from.empty())
             return false;
         isRunning = true;
-        step = std::move(from.back());
+        running = std::move(from.back());
         from.pop_back();
-        collected = {.name = step.name, .entries = {}, .keepsName = step.keepsName};
+        collected = {.name = running.name, .entries = {}, .keepsName = running.keepsName};
     }
     {
         const KTCallMark mark(meaning);
-        for (auto entry = step.entries.rbegin(); entry != step.entries.rend(); ++entry)
+        while (const auto entry = nextToRun())
             entry->action();
     }
     {
@@ -110,6 +133,15 @@ bool KTUndoManager::run(Steps& from, Steps& into, const void* meaning) {
     }
     announceState();
     return true;
+}
+
+std::optional<KTUndoManager::Entry> KTUndoManager::nextToRun() {
+    std::lock_guard guard(mutex);
+    if (running.entries.empty())
+        return std::nullopt;
+    Entry entry = std::move(running.entries.back());
+    running.entries.pop_back();
+    return entry;
 }
 
 bool KTUndoManager::canUndo() const {
@@ -146,22 +178,23 @@ void KTUndoManager::removeAllActionsWithTargets(const std::vector<const void*>& 
         {
             std::lock_guard guard(mutex);
             auto filter = [&](Step& step) {
-                auto kept = std::ranges::stable_partition(
+                auto found = std::ranges::stable_partition(
                     step.entries, [&](const Entry& entry) { return !gone.contains(entry.target); });
-                std::ranges::move(kept, std::back_inserter(forgotten));
-                step.entries.erase(kept.begin(), kept.end());
-                return step.entries.empty();
+                std::ranges::move(found, std::back_inserter(forgotten));
+                step.entries.erase(found.begin(), found.end());
             };
-            std::erase_if(undoSteps, filter);
-            std::erase_if(redoSteps, filter);
-            filter(open);
-            filter(collected);
+            for (Steps* steps : {&undoSteps, &redoSteps}) {
+                std::ranges::for_each(*steps, filter);
+                std::erase_if(*steps, [](const Step& step) { return step.entries.empty(); });
+            }
+            for (Step* step : {&open, &running, &collected})
+                filter(*step);
         }
         if (!forgotten.empty())
             announceState();
     };
-    if (queue && KTCallout::isUnderWay() && !queue->isHeldByThisThread())
-        return queue->async(std::move(remove));
+    if (queue && !mayWaitForQueue())
+        post(remove); // for what is on its way
     finishPosted();
     remove();
 }

@@ -198,15 +198,20 @@ TEST(ItemReplacement, RemovesOnlyFoldersOfProcessesThatAreGone) {
     leave(".waymark-torn00", dead.text().substr(0, dead.text().size() - dead.start.size() - 2));
     leave(".waymark-settings", dead.text());
     folder.file(".waymark-plain0/photo.jpg", "the user's");
+    leave(".waymark-lost00", ""); // by a computer that lost its power
+    fs::create_directory(folder / ".waymark-void00");
+    fs::create_directory(folder / ".waymark-new000");
+    for (const char* old : {".waymark-plain0", ".waymark-else00", ".waymark-lost00", ".waymark-void00"})
+        fs::last_write_time(folder / old, fs::file_time_type::clock::now() - std::chrono::hours(25));
     TemporaryFolder store;
     store.file(".waymark-owner", dead.text());
     fs::create_directory_symlink(store.path(), folder / ".waymark-link00");
 
     { KTItemReplacement replacement(folder / "photo.jpg"); }
-    EXPECT_EQ(
-        namesIn(folder.path()),
-        (std::vector<std::string>{".waymark-cont00", ".waymark-else00", ".waymark-link00", ".waymark-mine00",
-                                  ".waymark-plain0", ".waymark-settings", ".waymark-torn00"}));
+    EXPECT_EQ(namesIn(folder.path()),
+              (std::vector<std::string>{".waymark-cont00", ".waymark-else00", ".waymark-link00",
+                                        ".waymark-mine00", ".waymark-new000", ".waymark-plain0",
+                                        ".waymark-settings", ".waymark-torn00"}));
     EXPECT_EQ(namesIn(store.path()), (std::vector<std::string>{".waymark-owner"}));
     EXPECT_EQ(KTProcessIdentity::fromText(mine.text()), mine);
 }

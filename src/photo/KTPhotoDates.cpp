@@ -5,7 +5,7 @@
 #include "platform/common/KTLog.h"
 #include "platform/common/KTText.h"
 #include "platform/common/KTTimeZoneManager.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/undo/KTUndoManager.h"
 
 #include <cmath>

@@ -6,7 +6,7 @@
 #include "photo/KTiPhotoTool.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/desktop/KTFileCoordinator.h"
 #include "platform/desktop/KTFileDates.h"

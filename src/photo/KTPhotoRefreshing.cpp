@@ -4,7 +4,7 @@
 #include "photo/KTPhotoPropertyTable.h"
 #include "photo/KTSameValue.h"
 #include "platform/common/KTLocalizedString.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/desktop/KTFileCoordinator.h"
 

@@ -3,7 +3,7 @@
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/undo/KTUndoManager.h"
 

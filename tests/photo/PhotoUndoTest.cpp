@@ -1,6 +1,6 @@
 #include "tests/photo/PhotoFixture.h"
 
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTLatch.h"
 
 #include <rapidcheck/gtest.h>

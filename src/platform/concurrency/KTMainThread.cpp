@@ -1,6 +1,6 @@
 #include "platform/concurrency/KTMainThread.h"
 
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTLatch.h"
 
 #include <QCoreApplication>

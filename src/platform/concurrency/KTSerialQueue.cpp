@@ -1,6 +1,6 @@
 #include "platform/concurrency/KTSerialQueue.h"
 
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTLatch.h"
 #include "platform/concurrency/KTThreadPool.h"
 

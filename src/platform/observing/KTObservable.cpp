@@ -1,6 +1,6 @@
 #include "platform/observing/KTObservable.h"
 
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 
 struct KTObserverList {
     struct Entry {

@@ -1,6 +1,6 @@
 #include "platform/undo/KTUndoManager.h"
 
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 
 #include <algorithm>
 #include <cassert>

@@ -1,4 +1,4 @@
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 
 KTCallContext& KTCallContext::current() {
     static thread_local KTCallContext context;

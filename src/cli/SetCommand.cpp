@@ -4,7 +4,9 @@
 
 #include "metadata/KTMetadataFieldManager.h"
 #include "photo/KTPhotoChangeTracker.h"
+#include "photo/KTSameValue.h"
 #include "platform/common/KTCalendar.h"
+#include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 
 #include <CLI/CLI.hpp>
@@ -132,10 +134,34 @@ private:
             const KTPhotoChangeTracker tracker(*photo);
             for (const auto& [key, value] : edits)
                 photo->setValueForKey(key, value);
+            const auto wanted = valuesOf(*photo, edits);
             photo->saveWithBackupToFolder(saving.backupFolder());
+            for (const auto& [key, value] : wanted)
+                if (!KTIsSameValue(value, photo->savedPropertyWithKey(key)))
+                    photo->addPhotoOperation(notKept(file, key));
         }
         operations = photo->photoOperations();
-        return photo->isValid() && !photo->hasUnsavedChanges();
+        return photo->isValid() && !photo->hasUnsavedChanges() &&
+               operations.back().resultType() != KTPhotoOperation::Failure;
+    }
+
+    /// What the photo makes of the edits.
+    static KTValue::Dictionary valuesOf(const KTPhoto& photo,
+                                        const std::vector<std::pair<std::string, KTValue>>& edits) {
+        KTValue::Dictionary values;
+        for (const auto& [key, value] : edits)
+            values[key] = photo.valueForKey(key);
+        return values;
+    }
+
+    static KTPhotoOperation notKept(const std::filesystem::path& file, const std::string& key) {
+        KTPhotoOperation operation;
+        operation.url = file;
+        operation.operationDescription = KTLocalizedString("Check what was written");
+        operation.failureReason = 1;
+        operation.failureDescription =
+            KTStringWithFormat(KTLocalizedString("The photo's files do not hold the value of “%@”."), {key});
+        return operation;
     }
 };
 

@@ -5,6 +5,8 @@
 #include "platform/common/KTCalendar.h"
 #include "platform/common/KTTimeZoneManager.h"
 
+#include <regex>
+
 namespace {
 
 constexpr KTMetadataPictureDateField::Tags kOriginal = {"EXIF:DateTimeOriginal", "XMP:DateTimeOriginal",
@@ -15,6 +17,7 @@ constexpr KTMetadataPictureDateField::Tags kDigitized = {
     "IPTC:DigitalCreationDate", "IPTC:DigitalCreationTime", "Composite:DigitalCreationDateTime"};
 
 constexpr std::size_t kDateTimeLength = std::string_view("2014:06:01 12:00:00").size();
+constexpr std::size_t kDateLength = std::string_view("2014:06:01").size();
 constexpr std::size_t kTimeLength = std::string_view("12:00:00").size();
 constexpr std::chrono::sys_days kReferenceDate = std::chrono::year(2001) / 1 / 1;
 
@@ -28,10 +31,15 @@ bool isComplete(const KTDateComponents& date) {
     return std::ranges::all_of(date.unitFlags(), std::identity());
 }
 
-/// What follows the first @p length characters of the existing text: sub-seconds and zone.
+/// The fraction of a second and the zone at the end of the existing text, after its first @p length
+/// characters; nothing where something else stands there, as no file would take it behind the new text.
 std::string suffixOf(const KTValue& existing, std::size_t length) {
-    return existing.text() && existing.text()->size() > length ? existing.text()->substr(length)
-                                                               : std::string();
+    static const std::regex suffix("(\\.[0-9]+)?(Z|[+-][0-9]{2}:?[0-9]{2})?$");
+    if (!existing.text() || existing.text()->size() <= length)
+        return {};
+    const std::string after = existing.text()->substr(length);
+    std::smatch match;
+    return std::regex_search(after, match, suffix) ? match.str() : std::string();
 }
 
 KTValue withSuffix(const std::optional<std::string>& text, const KTDateComponents* date,
@@ -89,9 +97,8 @@ void KTMetadataPictureDateField::modifyExifToolChangesDictionary(
         writing.add(tagKeys.xmp, saysMore ? existingText : KTValue(xmpText));
     }
     if (isChanged)
-        writing.add(
-            tagKeys.xmpDate,
-            withSuffix(xmpText, date, suffixOf(existing.valueForKey(tagKeys.xmpDate), kDateTimeLength)));
+        writing.add(tagKeys.xmpDate,
+                    withSuffix(xmpText, date, suffixOf(existing.valueForKey(tagKeys.xmpDate), kDateLength)));
     else
         changes.remove(tagKeys.xmpDate);
     writing.replace(tagKeys.iptcDate, date ? date->iptcDateString() : std::nullopt);

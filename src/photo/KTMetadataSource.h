@@ -16,6 +16,7 @@ struct KTMetadataSource {
     KTMetadataProperties properties; ///< of a file
     /// The file as it was when `saved` was read or written; nothing when there was none.
     std::optional<KTFileStamp> stamp;
+    unsigned revision = 0; ///< how often `saved` was replaced since the photo was opened
 
     /// The keys under which a photo announces its dictionaries.
     std::string_view savedKey() const;

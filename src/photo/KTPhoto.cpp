@@ -3,8 +3,8 @@
 #include "metadata/KTMetadataFieldManager.h"
 #include "photo/KTPhotoPropertyTable.h"
 #include "photo/KTPhotoSidecar.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/common/KTText.h"
-#include "platform/concurrency/KTCallContext.h"
 #include "platform/desktop/KTMediaObject.h"
 #include "platform/desktop/KTTypeIdentifiers.h"
 
@@ -39,13 +39,14 @@ std::shared_ptr<KTPhoto> KTPhoto::copyWithZone() const {
             copy->sources[kind].changes = sources[kind].changes;
             copy->sources[kind].properties = sources[kind].properties;
             copy->sources[kind].stamp = sources[kind].stamp;
+            copy->sources[kind].revision = sources[kind].revision;
         }
-        copy->recordedKeys = recordedKeys;
+        copy->recordedEdits = recordedEdits;
         copy->valid = valid;
-        copy->unsaved = unsaved;
     }
     for (const auto which : {KTPhotoDateFamily::Original, KTPhotoDateFamily::Digitized})
         copy->setDateComponents(which, readingOf(which).components);
+    copy->unsaved = copy->computeHasUnsavedChanges(copy->targets());
     return copy;
 }
 
@@ -55,7 +56,11 @@ std::filesystem::path KTPhoto::xmpURL() const {
 
 bool KTPhoto::hasXMPSidecar() const {
     std::error_code error;
-    return !imageURL.empty() && std::filesystem::exists(xmpURL(), error);
+    if (imageURL.empty() || std::filesystem::exists(xmpURL(), error))
+        return !imageURL.empty();
+    // Where the disk does not answer, it counts as there: a save would else write into the image instead.
+    return error && error != std::errc::filename_too_long &&
+           error != std::errc::too_many_symbolic_link_levels;
 }
 
 KTValue KTPhoto::uti() const {
@@ -132,18 +137,39 @@ void KTPhoto::setValueForKey(std::string_view key, const KTValue& value) {
         setStoredValue(*property, value);
 }
 
+KTPhoto::EditUnderWay::EditUnderWay(KTPhoto& edited, std::string_view editedKey)
+    : photo(edited), key(editedKey) {
+    std::lock_guard guard(photo.mutex);
+    photo.editsUnderWay.push_back(key);
+}
+
+KTPhoto::EditUnderWay::~EditUnderWay() {
+    std::lock_guard guard(photo.mutex);
+    photo.editsUnderWay.erase(std::ranges::find(photo.editsUnderWay, key));
+}
+
+bool KTPhoto::isBeingEdited(std::string_view key) const {
+    return std::ranges::find(editsUnderWay, key) != editsUnderWay.end();
+}
+
 void KTPhoto::setStoredValue(const KTPhotoProperty& property, const KTValue& value) {
-    KTValue stored = value.isNull() ? KTValue() : value;
+    const EditUnderWay edit(*this, property.key);
+    storeAndAnnounce(property, value.isNull() ? KTValue() : value, false);
+}
+
+void KTPhoto::storeAndAnnounce(const KTPhotoProperty& property, KTValue value, bool unlessEdited) {
     if (property.normalized != nullptr)
-        stored = property.normalized(stored);
+        value = property.normalized(value);
     if (!property.alsoChanges.empty())
         willChange(property.alsoChanges);
     willChange(property.key);
     {
         std::lock_guard guard(mutex);
-        std::swap(values[property.place], stored);
+        if (unlessEdited && isBeingEdited(property.key))
+            value = values[property.place];
+        std::swap(values[property.place], value);
     }
-    didChange(property.key, KTChange::Kind::Setting, {}, std::move(stored));
+    didChange(property.key, KTChange::Kind::Setting, {}, std::move(value));
     if (!property.alsoChanges.empty())
         didChange(property.alsoChanges);
 }

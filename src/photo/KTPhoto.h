@@ -94,7 +94,7 @@ public:
     void removeAllGPSValues();
     /// Geotags the photo from @p point, under the location settings, as one undo step "Geotag Photos":
     /// position, datum, GPS version, the altitude where the point has an elevation, and the GPS time (cleared
-    /// for a point without a date).
+    /// for a point without a date). Holds the undo queue, as setValuesForKeysWithDictionary does.
     void setLocationCreatedFromPoint(const KTGeoPoint& point);
 
     // Capture dates. The instant is the components' reading in their zone, nothing without date, calendar or
@@ -107,7 +107,7 @@ public:
     }
     std::optional<KTInstant> instantOf(KTPhotoDateFamily::Which which) const;
     /// Sets components and shift. A date without zone given to a photo that had no date is taken in the
-    /// assumed zone.
+    /// assumed zone; a later one has no instant and cannot be shifted.
     void setDateComponents(KTPhotoDateFamily::Which which, std::optional<KTDateComponents> components,
                            double shift = 0);
     /// The reading of @p instant in the zone in which the application shows dates; clears the date for
@@ -210,6 +210,27 @@ public:
     void setGeodesicToLocationShown(std::shared_ptr<const KTMultiPointGeometry> geodesic);
 
 private:
+    /// What the edits of a field have entered into the dictionaries of changes.
+    struct FieldEdits {
+        std::vector<KTTagKey> keys;
+        std::array<unsigned, 3> revisions = {}; ///< of the sources, when the first of them was entered
+    };
+    /// Keeps a value that is being set from being taken for one that nobody has edited.
+    class EditUnderWay {
+    public:
+        EditUnderWay(KTPhoto& edited, std::string_view editedKey);
+        ~EditUnderWay();
+        EditUnderWay(const EditUnderWay&) = delete;
+        EditUnderWay& operator=(const EditUnderWay&) = delete;
+
+    private:
+        KTPhoto& photo;
+        const std::string_view key;
+    };
+    /// What a look at a file brought before a save writes it.
+    struct Refresh {
+        std::optional<std::string> warning, failure;
+    };
     /// Values and dates that are set together; its own inverse.
     struct GroupedEdit;
     struct WriteRequest;
@@ -219,6 +240,8 @@ private:
 
     // Values (KTPhoto.cpp)
     void setStoredValue(const struct KTPhotoProperty& property, const KTValue& value);
+    void storeAndAnnounce(const KTPhotoProperty& property, KTValue value, bool unlessEdited);
+    bool isBeingEdited(std::string_view key) const; // the mutex must be held
     KTValue storedValue(std::size_t place) const;
 
     // Reading (KTPhotoReading.cpp)
@@ -235,7 +258,7 @@ private:
 
     // Dates (KTPhotoDates.cpp)
     void changeDates(KTPhotoDateFamily::Which which, std::initializer_list<std::string_view> keys,
-                     const std::function<void(KTPhotoDateFamily&)>& store);
+                     const std::function<KTPhotoDateFamily::Reading(KTPhotoDateFamily&)>& store);
     void registerDatesForUndo(KTPhotoDateFamily::Which which);
 
     // Changes (KTPhotoChanges.cpp)
@@ -262,23 +285,26 @@ private:
     bool saveFiles(const BackupFolder& backupFolder);
     WriteResult saveFile(KTMetadataSource::Kind kind, const BackupFolder& backupFolder);
     void stampWithDate(std::string_view key, const KTValue& date);
-    bool backUpImage(const BackupFolder& folder);
+    bool backUpImage(const BackupFolder& folder, std::filesystem::path& backup);
     WriteRequest imageRequest() const;
     WriteRequest sidecarRequest() const;
-    KTTagDictionary seedsOfNewSidecar(const KTMetadataSource& sidecar) const;
     KTTagDictionary valuesOfDivergentIPTCFields(const KTMetadataSource& image) const;
     WriteResult writeAndReplace(const WriteRequest& request);
     bool beginSidecar(const WriteRequest& request, const std::filesystem::path& temporary);
     void keepFileDates(const std::optional<KTFileDate>& modified);
     void finishWrite(const WriteRequest& request, const KTMetadataSource& written,
                      const KTTagDictionary& notWritten);
-    std::optional<std::string> refreshIfChanged(KTMetadataSource::Kind kind);
+    Refresh refreshIfChanged(KTMetadataSource::Kind kind);
     void adopt(const KTMetadataSource& read, const KTTagDictionary& pending,
                const std::function<bool(const KTTagKey&)>& isEdited);
-    void showUneditedValues();
+    enum class Pending { InTargets, Anywhere };
+    void showUneditedValues(Pending pending);
+    void showAsRead(const KTMetadataField& field, const KTValue& value);
+    std::vector<const KTMetadataField*> fieldsToWrite() const;
+    void followFiles(const std::vector<const KTMetadataField*>& written);
     void saveLibraryItem();
     void log(const std::filesystem::path& file, const char* description,
-             const std::optional<std::string>& failure);
+             const std::optional<std::string>& failure, const std::optional<std::string>& warning = {});
 
     const std::filesystem::path imageURL;
     const std::shared_ptr<const KTMediaObject> libraryItem;
@@ -287,8 +313,8 @@ private:
     mutable std::mutex mutex; // guards what follows; never held while announcing or waiting
     std::vector<KTValue> values;
     Sources sources;
-    /// The tag keys that the edits of a field have entered into a dictionary of changes.
-    std::map<const KTMetadataField*, std::vector<KTTagKey>> recordedKeys;
+    std::map<const KTMetadataField*, FieldEdits> recordedEdits;
+    std::vector<std::string_view> editsUnderWay; // keys that a thread is setting
     std::vector<KTPhotoOperation> operations;
     bool valid = false;
     bool unsaved = false;
@@ -300,6 +326,7 @@ private:
     mutable std::shared_ptr<const KTGeometry> shape;
     mutable std::shared_ptr<const KTMultiPointGeometry> geodesicLine;
 
+    std::string_view followedKey;             // shown as read at present; for the main thread
     std::atomic<bool> checkIsDue = false;     // put off to the end of a grouped edit
     std::atomic<bool> sidecarOfGroup = false; // whether there was one at its beginning
     std::atomic<int> trackers = 0;

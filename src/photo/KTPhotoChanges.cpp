@@ -1,10 +1,11 @@
 #include "photo/KTPhoto.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTNewSidecar.h"
 #include "photo/KTPhotoPropertyTable.h"
 #include "photo/KTSameValue.h"
 #include "platform/cartography/KTGeometry.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/undo/KTUndoManager.h"
 
@@ -48,7 +49,7 @@ void KTPhoto::recordEdit(std::string_view key, const KTValue& oldValue) {
     if (property == nullptr || property->field == nullptr || property->field->readonly())
         return;
     const KTMetadataField& field = *property->field;
-    if (KTCallMark::count(&sources) > 0) { // the photo follows its file
+    if (KTCallMark::count(&sources) > 0 && key == followedKey) { // the photo follows its file
         if (property->isCoordinate)
             KTPerformOnMainThreadAndWait([this] { updateGeotagState(); });
         return;
@@ -58,9 +59,9 @@ void KTPhoto::recordEdit(std::string_view key, const KTValue& oldValue) {
     KTPerformOnMainThreadAndWait([&] {
         // The value of now, not that of the announcement: of two edits at once the later record must win.
         changeRecords([&] { recordField(field, valueForKey(key), false); });
+        checkForUnsavedChanges();
         if (property->isCoordinate)
             updateGeotagState();
-        checkForUnsavedChanges();
     });
     if (doNotTrackChangesStack() == 0)
         registerEditForUndo(field, oldValue);
@@ -83,7 +84,7 @@ void KTPhoto::recordField(const KTMetadataField& field, const KTValue& value, bo
     for (KTMetadataSource& source : sources) {
         recordInto(source, field, value);
         if (withdraws)
-            for (const KTTagKey& key : recordedKeys[&field])
+            for (const KTTagKey& key : recordedEdits[&field].keys)
                 source.changes.remove(key);
     }
 }
@@ -93,22 +94,32 @@ void KTPhoto::recordField(const KTMetadataField& field, const KTValue& value, bo
 void KTPhoto::recordInto(KTMetadataSource& source, const KTMetadataField& field, const KTValue& value) {
     const KTTagDictionary before = source.changes;
     source.record(field, value, source.changes);
-    std::vector<KTTagKey>& keys = recordedKeys[&field];
+    if (source.kind == KTMetadataSource::Sidecar && !source.stamp && KTIsSameValue(value, {}))
+        recordClearedInNewSidecar(field, sources[KTMetadataSource::Image], source);
+    auto [entry, isFirst] = recordedEdits.try_emplace(&field);
+    if (isFirst)
+        for (const KTMetadataSource& each : sources)
+            entry->second.revisions[each.kind] = each.revision;
+    std::vector<KTTagKey>& keys = entry->second.keys;
     for (const auto& [key, change] : source.changes)
         if (!before.find(key) && std::ranges::find(keys, key) == keys.end())
             keys.push_back(key);
 }
 
 /// Whether @p value is the one that was read, and every source that a save would write to holds it: where an
-/// image and its sidecar differ, the value of one of them is an edit for the other. Undoing, which only ever
-/// goes back to where the photo was, asks for the first alone.
+/// image and its sidecar differ, the value of one of them is an edit for the other. Undoing an edit since
+/// which no file was read or written goes back to where the photo was, and asks for the first alone.
 bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
                         const KTSaveTargets& where) const {
     const auto undo = undoManager();
     std::lock_guard guard(mutex);
     if (!KTIsSameValue(value, valueAsRead(field, sources, where)))
         return false;
-    if (undo && undo->isUndoingOrRedoing())
+    const auto edits = recordedEdits.find(&field);
+    const bool goesBack = undo && undo->isUndoingOrRedoing() && edits != recordedEdits.end();
+    if (goesBack && std::ranges::all_of(sources, [&](const KTMetadataSource& source) {
+            return edits->second.revisions[source.kind] == source.revision;
+        }))
         return true;
     auto holds = [&](KTMetadataSource::Kind kind) {
         return KTIsSameValue(sources[kind].valueForField(field), value);
@@ -122,8 +133,8 @@ bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
 }
 
 bool KTPhoto::hasPendingKeys(const KTMetadataField& field, const KTTagDictionary& changes) const {
-    const auto entry = recordedKeys.find(&field);
-    return entry != recordedKeys.end() && std::ranges::any_of(entry->second, [&](const KTTagKey& key) {
+    const auto entry = recordedEdits.find(&field);
+    return entry != recordedEdits.end() && std::ranges::any_of(entry->second.keys, [&](const KTTagKey& key) {
                return changes.find(key) != nullptr;
            });
 }

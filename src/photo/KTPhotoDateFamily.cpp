@@ -33,34 +33,50 @@ std::optional<KTInstant> KTPhotoDateFamily::instant() const {
         [this] { return current.components ? KTInstantOfComponents(*current.components) : std::nullopt; });
 }
 
-void KTPhotoDateFamily::store(Reading reading) {
-    queue.sync([&] { current = std::move(reading); });
+KTPhotoDateFamily::Reading KTPhotoDateFamily::store(Reading reading) {
+    return queue.sync([&] { return std::exchange(current, std::move(reading)); });
 }
 
-void KTPhotoDateFamily::storeShift(double seconds) {
-    queue.sync([&] { current.shift = seconds; });
-}
-
-void KTPhotoDateFamily::storeTimeZone(const KTTimeZone& zone) {
-    queue.sync([&] {
-        if (current.components)
-            current.components->timeZone = zone;
+KTPhotoDateFamily::Reading KTPhotoDateFamily::storeShift(double seconds) {
+    return queue.sync([&] {
+        Reading before = current;
+        current.shift = seconds;
+        return before;
     });
 }
 
-void KTPhotoDateFamily::storeShifted(const KTDateComponents& saved, double seconds) {
+void KTPhotoDateFamily::restoreShift(const Reading& before) {
     queue.sync([&] {
-        const auto& present = current.components;
-        Reading shifted{std::nullopt, seconds};
-        if (present && present->timeZone && present->calendar) {
+        if (current.components == before.components)
+            current.shift = before.shift;
+    });
+}
+
+KTPhotoDateFamily::Reading KTPhotoDateFamily::storeTimeZone(const KTTimeZone& zone) {
+    return queue.sync([&] {
+        Reading before = current;
+        if (current.components)
+            current.components->timeZone = zone;
+        return before;
+    });
+}
+
+KTPhotoDateFamily::Reading KTPhotoDateFamily::storeShifted(const KTDateComponents& saved, double seconds) {
+    return queue.sync([&] {
+        const Reading before = current;
+        const auto& present = before.components;
+        if (!present) {
+            current.shift = seconds;
+        } else if (present->timeZone && present->calendar) {
             const KTCalendar calendar(*present->timeZone, *present->calendar);
+            current = {std::nullopt, seconds};
             if (auto instant = calendar.dateFromComponents(saved)) {
                 const auto shift =
                     std::chrono::round<std::chrono::milliseconds>(std::chrono::duration<double>(seconds));
-                shifted.components = calendar.componentsFromDate(*instant + shift);
-                keepUnits(*shifted.components, saved);
+                current.components = calendar.componentsFromDate(*instant + shift);
+                keepUnits(*current.components, saved);
             }
         }
-        current = std::move(shifted);
+        return before;
     });
 }

@@ -27,13 +27,16 @@ public:
     /// The instant of the components in their zone; nothing without components, calendar or zone.
     std::optional<KTInstant> instant() const;
 
-    void store(Reading reading);
+    // Each returns the reading that it replaces.
+    Reading store(Reading reading);
     /// @p saved moved by @p seconds, in the units that it has, with the present calendar and zone; absent
-    /// when there is no present date.
-    void storeShifted(const KTDateComponents& saved, double seconds);
+    /// when there is no present date. No effect on a date without calendar or zone.
+    Reading storeShifted(const KTDateComponents& saved, double seconds);
     /// No effect without a date.
-    void storeTimeZone(const KTTimeZone& zone);
-    void storeShift(double seconds);
+    Reading storeTimeZone(const KTTimeZone& zone);
+    Reading storeShift(double seconds);
+    /// Stores the shift of @p before if the components are still its own.
+    void restoreShift(const Reading& before);
 
 private:
     mutable KTSerialQueue queue;

@@ -1,11 +1,11 @@
 #include "photo/KTPhoto.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTLog.h"
 #include "platform/common/KTText.h"
 #include "platform/common/KTTimeZoneManager.h"
-#include "platform/common/KTCallContext.h"
 #include "platform/undo/KTUndoManager.h"
 
 #include <cmath>
@@ -41,12 +41,12 @@ std::optional<KTInstant> KTPhoto::instantOf(KTPhotoDateFamily::Which which) cons
 /// Announces @p keys, which begin with the components', around @p store. The guard keeps the observer's undo
 /// of single properties away: a date comes with its shift, which only the registration here brings back.
 void KTPhoto::changeDates(KTPhotoDateFamily::Which which, std::initializer_list<std::string_view> keys,
-                          const std::function<void(KTPhotoDateFamily&)>& store) {
-    const KTValue oldComponents = readingOf(which).components;
+                          const std::function<KTPhotoDateFamily::Reading(KTPhotoDateFamily&)>& store) {
     const KTCallMark untracked(this);
+    const EditUnderWay edit(*this, *keys.begin());
     for (std::string_view key : keys)
         willChange(key);
-    store(dates[which]);
+    const KTValue oldComponents = store(dates[which]).components;
     for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
         didChange(*key, KTChange::Kind::Setting, {}, *key == *keys.begin() ? oldComponents : KTValue());
 }
@@ -70,7 +70,7 @@ void KTPhoto::setDateComponents(KTPhotoDateFamily::Which which, std::optional<KT
     registerDatesForUndo(which);
     const KTPhotoDateFamily::Keys& keys = KTPhotoDateFamily::keysOf(which);
     changeDates(which, {keys.components, keys.timeZone, keys.shift, keys.instant}, [&](auto& family) {
-        family.store({std::move(components), shift});
+        return family.store({std::move(components), shift});
     });
 }
 
@@ -90,12 +90,12 @@ void KTPhoto::setDateShift(KTPhotoDateFamily::Which which, std::optional<double>
         return;
     registerDatesForUndo(which);
     changeDates(which, {keys.components, keys.shift, keys.instant},
-                [&](auto& family) { family.storeShifted(*saved, *seconds); });
+                [&](auto& family) { return family.storeShifted(*saved, *seconds); });
 }
 
 void KTPhoto::setDateTimeZone(KTPhotoDateFamily::Which which, const KTTimeZone& zone) {
     const KTPhotoDateFamily::Keys& keys = KTPhotoDateFamily::keysOf(which);
     if (readingOf(which).components)
         changeDates(which, {keys.components, keys.timeZone, keys.instant},
-                    [&](auto& family) { family.storeTimeZone(zone); });
+                    [&](auto& family) { return family.storeTimeZone(zone); });
 }

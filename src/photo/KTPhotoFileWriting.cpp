@@ -70,6 +70,9 @@ KTPhoto::WriteResult KTPhoto::writeAndReplace(const WriteRequest& request) {
     operation.url = request.target;
     KTMetadataSource written(request.kind);
     const KTTagDictionary notWritten = prove(operation, written, temporary, request.written);
+    KTTagDictionary tags = *written.saved; // in its place, not in that of the temporary item
+    tags.set("File:Directory", source(KTMetadataSource::Image).saved->valueForKey("File:Directory"));
+    written.saved = std::make_shared<const KTTagDictionary>(std::move(tags));
     if (request.warning)
         addWarning(operation, *request.warning);
     if (!operation.operationDidSucceed) {
@@ -124,26 +127,25 @@ bool KTPhoto::beginSidecar(const WriteRequest& request, const fs::path& temporar
 void KTPhoto::keepFileDates(const std::optional<KTFileDate>& modified) {
     const KTValue creationDate = valueForKey("creationDate");
     if (creationDate.date()) {
-        const KTCreationDateOutcome outcome = KTSetCreationDate(imageURL, *creationDate.date());
-        KTPhotoOperation operation;
-        operation.url = imageURL;
-        operation.operationDescription = KTLocalizedString("Set the creation date");
-        operation.operationDidSucceed = outcome.kind != KTCreationDateOutcome::Failed;
-        if (outcome.kind == KTCreationDateOutcome::NoPlace)
-            addWarning(operation, outcome.text);
-        if (!operation.operationDidSucceed) {
-            operation.failureReason = 1;
-            operation.failureDescription = outcome.text;
-        }
-        addPhotoOperation(operation);
-        if (operation.operationDidSucceed) {
+        const auto date = KTFileDateFromInstant(*creationDate.date());
+        const KTCreationDateOutcome outcome =
+            date ? KTSetCreationDate(imageURL, *date)
+                 : KTCreationDateOutcome{KTCreationDateOutcome::Failed,
+                                         KTLocalizedString("No file can have a creation date in that year.")};
+        const bool isFailure = outcome.kind == KTCreationDateOutcome::Failed;
+        const bool isWarning = outcome.kind == KTCreationDateOutcome::NoPlace;
+        log(imageURL, "Set the creation date", isFailure ? std::optional(outcome.text) : std::nullopt,
+            isWarning ? std::optional(outcome.text) : std::nullopt);
+        if (!isFailure) {
             std::lock_guard guard(mutex);
             knownCreationDate = *creationDate.date();
         }
     }
     if (KTUserDefaults::standardUserDefaults().boolForKey("defaultShouldPreserveModificationDate"))
         log(imageURL, "Preserve modification date",
-            modified ? KTSetModificationDate(imageURL, *modified) : std::nullopt);
+            modified ? KTSetModificationDate(imageURL, *modified) : std::nullopt,
+            modified ? std::nullopt
+                     : std::optional(KTLocalizedString("The modification date could not be read.")));
 }
 
 /// Brings the record up to date with the file that was written. What the user has edited meanwhile, and what

@@ -1,11 +1,13 @@
 #include "photo/KTPhotoWriteRequest.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTNewSidecar.h"
 #include "photo/KTPhotoChangeTracker.h"
+#include "photo/KTSameValue.h"
 #include "photo/KTWrittenValues.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
-#include "platform/concurrency/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/desktop/KTFileOperations.h"
@@ -19,13 +21,16 @@ constexpr int kMaximumAttempts = 5;
 
 } // namespace
 
-void KTPhoto::log(const fs::path& file, const char* description, const std::optional<std::string>& failure) {
+void KTPhoto::log(const fs::path& file, const char* description, const std::optional<std::string>& failure,
+                  const std::optional<std::string>& warning) {
     KTPhotoOperation operation;
     operation.url = file;
     operation.operationDescription = KTLocalizedString(description);
     operation.operationDidSucceed = !failure;
     operation.failureReason = failure ? 1 : 0;
     operation.failureDescription = failure;
+    if (warning)
+        addWarning(operation, *warning);
     addPhotoOperation(operation);
 }
 
@@ -51,9 +56,10 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
     if (!unsavedFile() && !unsavedSidecar())
         return true;
     const KTValue metadataDate = valueForKey("metadataDate"), modifyDate = valueForKey("modifyDate");
-    const double shift = readingOf(KTPhotoDateFamily::Original).shift;
+    const auto fields = fieldsToWrite();
     stampWithDate("metadataDate", KTInstantNow());
-    dates[KTPhotoDateFamily::Original].storeShift(0); // counts from the date that will be in the file
+    // Counts from the date that will be in the file.
+    const auto original = dates[KTPhotoDateFamily::Original].storeShift(0);
 
     std::vector<WriteResult> results;
     if (unsavedFile())
@@ -61,11 +67,13 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
     const bool isStopped = !results.empty() && results.back() == WriteResult::Stopped;
     if (!isStopped && unsavedSidecar())
         results.push_back(saveFile(KTMetadataSource::Sidecar, backupFolder));
-    if (std::ranges::find(results, WriteResult::Written) == results.end()) {
+    if (std::ranges::find(results, WriteResult::Written) != results.end()) {
+        followFiles(fields);
+    } else {
         // Nothing was stamped on disk, so nothing may look stamped.
         stampWithDate("metadataDate", metadataDate);
         stampWithDate("modifyDate", modifyDate);
-        dates[KTPhotoDateFamily::Original].storeShift(shift);
+        dates[KTPhotoDateFamily::Original].restoreShift(original);
     }
     return std::ranges::find(results, WriteResult::Stopped) == results.end();
 }
@@ -73,31 +81,42 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
 KTPhoto::WriteResult KTPhoto::saveFile(KTMetadataSource::Kind kind,
                                        const std::optional<fs::path>& backupFolder) {
     const bool isImage = kind == KTMetadataSource::Image;
+    const fs::path file = isImage ? imageURL : xmpURL();
+    fs::path backup;
     for (int attempt = 1; attempt <= kMaximumAttempts; ++attempt) {
-        const auto warning = refreshIfChanged(kind);
+        const Refresh refresh = refreshIfChanged(kind);
+        if (refresh.failure) {
+            log(file, isImage ? "Read from primary file URL." : "Read from sidecar file URL.",
+                refresh.failure);
+            return WriteResult::Failed;
+        }
         if (isImage) {
-            if (!backUpImage(backupFolder))
+            if (!backUpImage(backupFolder, backup))
                 return WriteResult::Stopped;
             stampWithDate("modifyDate", KTInstantNow());
         }
         WriteRequest request = isImage ? imageRequest() : sidecarRequest();
-        request.warning = warning;
+        request.warning = refresh.warning;
         request.backupFolder = backupFolder;
         const WriteResult result = writeAndReplace(request);
         if (result != WriteResult::ChangedMeanwhile)
             return result;
     }
-    const fs::path file = isImage ? imageURL : xmpURL();
     log(file, isImage ? "Overwrite original file" : "Overwrite original xmp file",
         KTStringWithFormat(KTLocalizedString("“%@” keeps being changed by another program."),
                            {KTValidUTF8(file.string())}));
     return WriteResult::Failed;
 }
 
-bool KTPhoto::backUpImage(const std::optional<fs::path>& folder) {
+/// Copies the image to @p backup, in place of an earlier copy that the same save has made there.
+bool KTPhoto::backUpImage(const BackupFolder& folder, fs::path& backup) {
     if (!folder)
         return true;
-    const auto failure = KTCopyItem(imageURL, *folder / KTBackupName(*folder, imageURL.filename()));
+    std::error_code error;
+    if (!backup.empty())
+        fs::remove(backup, error);
+    backup = *folder / KTBackupName(*folder, imageURL.filename());
+    const auto failure = KTCopyItem(imageURL, backup);
     if (failure)
         log(imageURL, "Copy original image to backup folder", failure);
     return !failure;
@@ -119,36 +138,27 @@ KTPhoto::WriteRequest KTPhoto::imageRequest() const {
 }
 
 KTPhoto::WriteRequest KTPhoto::sidecarRequest() const {
-    const KTMetadataSource sidecar = source(KTMetadataSource::Sidecar);
+    const KTMetadataSource image = source(KTMetadataSource::Image),
+                           sidecar = source(KTMetadataSource::Sidecar);
     const bool exists = sidecar.stamp.has_value();
-    KTTagDictionary written = exists ? KTTagDictionary() : seedsOfNewSidecar(sidecar);
-    for (const auto& [key, value] : sidecar.changes)
-        written.set(key, value);
+    KTTagDictionary written = sidecar.changes;
+    if (!exists)
+        for (const auto& [key, value] : valuesOfNewSidecar(
+                 image, sidecar.properties, [this](const auto& field) { return valueForKey(field.key()); }))
+            written.set(key, value);
     return {KTMetadataSource::Sidecar,
             xmpURL(),
             exists ? xmpURL() : imageURL,
             sidecar.changes,
-            adaptedToLanguageAlternatives(written, *sidecar.saved),
+            adaptedToLanguageAlternatives(written, exists ? *sidecar.saved : *image.saved),
             sidecar.stamp,
             {},
             {}};
 }
 
-/// A new sidecar receives every value that the photo has, not only the edited ones.
-KTTagDictionary KTPhoto::seedsOfNewSidecar(const KTMetadataSource& sidecar) const {
-    KTTagDictionary seeds;
-    for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields())
-        if (!field->readonly())
-            field->modifyExifToolChangesDictionary(seeds, valueForKey(field->key()), {}, sidecar.properties);
-    KTTagDictionary result;
-    for (const auto& [key, value] : seeds)
-        if (!value.isNull())
-            result.set(key, value);
-    return result;
-}
-
-/// Writing IPTC renews its digest, which says that IPTC and XMP agree. Where they do not, the fields that the
-/// user did not touch would read from XMP ever after; so both get the value that stands in the photo now.
+/// Writing IPTC renews its digest, which says that IPTC and XMP agree. A field that the user did not touch
+/// and of which they tell different things would read from XMP ever after; so both get the value that stands
+/// in the photo now. Where IPTC tells nothing, nothing is lost, and what XMP tells is not deleted.
 KTTagDictionary KTPhoto::valuesOfDivergentIPTCFields(const KTMetadataSource& image) const {
     KTTagDictionary result;
     const bool diverges = image.properties.hasIPTCChecksum && !image.properties.iptcChecksumDoesMatch;
@@ -156,9 +166,15 @@ KTTagDictionary KTPhoto::valuesOfDivergentIPTCFields(const KTMetadataSource& ima
         image.changes, [](const auto& change) { return std::string_view(change.key).starts_with("IPTC"); });
     if (!diverges || !writesIPTC)
         return result;
+    KTMetadataSource renewed = image;
+    renewed.properties.iptcChecksumDoesMatch = true;
     std::lock_guard guard(mutex);
-    for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields())
-        if (!field->readonly() && !hasPendingKeys(*field, image.changes))
-            image.record(*field, image.valueForField(*field), result);
+    for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields()) {
+        const KTValue value = image.valueForField(*field);
+        const bool wouldChange =
+            !KTIsSameValue(value, {}) && !KTIsSameValue(value, renewed.valueForField(*field));
+        if (wouldChange && !field->readonly() && !hasPendingKeys(*field, image.changes))
+            image.record(*field, value, result);
+    }
     return result;
 }

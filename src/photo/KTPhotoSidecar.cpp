@@ -1,6 +1,7 @@
 #include "photo/KTPhotoSidecar.h"
 
 #include "photo/KTPhoto.h"
+#include "platform/concurrency/KTMainThread.h"
 #include "platform/desktop/KTFileCoordinator.h"
 
 KTPhotoSidecar::KTPhotoSidecar(KTPhoto& sidecarsPhoto)
@@ -11,5 +12,9 @@ KTPhotoSidecar::~KTPhotoSidecar() {
 }
 
 void KTPhotoSidecar::presentedItemDidChange() {
-    photo.checkForUnsavedChanges();
+    // Not waited for: what the main thread does about it may let go of the photo, which waits for this queue.
+    KTPerformOnMainThread([weak = photo.weak_from_this()] {
+        if (const auto alive = weak.lock())
+            alive->checkForUnsavedChanges();
+    });
 }

@@ -1,9 +1,9 @@
 #include "photo/KTPhotoGroupedEdit.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
-#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/undo/KTUndoManager.h"
 

@@ -56,6 +56,13 @@ TEST_F(FieldDateTest, AChangedDateKeepsZonesInXMPDateAndIPTC) {
                     {"XMP:DateCreated", "2012:07:05 11:30:00.5+02:00"},
                     {"IPTC:DateCreated", "2012:07:05"},
                     {"IPTC:TimeCreated", "11:30:00+02:00"}}));
+    for (auto [existing, written] : {std::pair{"2012:07:04 10:00+02:00", "2012:07:05 11:30:00+02:00"},
+                                     {"2012:07:04 10:00:00, 2012:07:04", "2012:07:05 11:30:00"},
+                                     {"2012:07:04", "2012:07:05 11:30:00"}})
+        EXPECT_EQ(write(kOriginal, components("2012:07:05 11:30:00"), {{"XMP:DateCreated", existing}}, kEXIF)
+                      .valueForKey("XMP:DateCreated"),
+                  KTValue(written))
+            << existing;
     EXPECT_EQ(
         write(kDigitized, components("2012:07:05 11:30:00"), {}, kXMPOnly),
         (Tags{{"XMP:DateTimeDigitized", "2012:07:05 11:30:00"}, {"XMP:CreateDate", "2012:07:05 11:30:00"}}));

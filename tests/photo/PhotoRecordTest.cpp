@@ -4,7 +4,7 @@
 #include "photo/KTPhotoPropertyTable.h"
 #include "platform/cartography/KTMultiPointGeometry.h"
 #include "platform/cartography/KTStyle.h"
-#include "platform/concurrency/KTCallContext.h"
+#include "platform/common/KTCallContext.h"
 
 namespace {
 

@@ -104,6 +104,43 @@ TEST_F(PhotoSaving, AnExistingSidecarIsEditedNotRebuilt) {
     EXPECT_EQ(tagsOf(sidecar).valueForKey("XMP:Title"), KTValue("New"));
 }
 
+TEST_F(PhotoSaving, ANewSidecarHoldsWhatThePhotoShowsAndNotWhatWasClearedOrRoundedInIt) {
+    setStyle(2);
+    auto file = makePhoto(folder, "a.jpg",
+                          {{"EXIF:ImageDescription", "old"},
+                           {"EXIF:GPSLatitude", 47},
+                           {"EXIF:GPSLatitudeRef", "N"},
+                           {"EXIF:GPSDateStamp", "2014:06:01"},
+                           {"EXIF:GPSTimeStamp", "09:59:59.25"},
+                           {"EXIF:DateTimeOriginal", "2014:06:01 12:00:00"},
+                           {"XMP:DateTimeOriginal", "2014:06:01 12:00:00.25+02:00"},
+                           {"XMP:DateCreated", "2014:06:01 12:00:00.25+02:00"},
+                           {"IPTC:Headline", "old"},
+                           {"IPTC:City", "Basel"},
+                           {"XMP:Description", "old"},
+                           {"XMP:Description-de", "alt"},
+                           {"XMP:Subject", KTValue::listOfTexts({"old"})}});
+    auto photo = open(file);
+    photo->setValueForKey("latitude", {});
+    EXPECT_TRUE(photo->hasUnsavedChanges()) << "the copy of the image would hold it";
+    photo->setValueForKey("latitude", 47);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    photo->setValueForKey("caption", "new");
+    for (const char* key : {"latitude", "headline", "keywords"})
+        photo->setValueForKey(key, {});
+    photo->saveWithBackupToFolder(std::nullopt);
+    const KTTagDictionary tags = tagsOf(folder / "a.xmp");
+    for (const char* key : {"XMP:GPSLatitude", "XMP:Headline", "XMP:Subject"})
+        EXPECT_FALSE(tags.find(key)) << key << " was cleared";
+    EXPECT_EQ(tags.valueForKey("XMP:GPSDateTime"), KTValue("2014:06:01 09:59:59.25Z"));
+    for (const char* key : {"XMP:DateTimeOriginal", "XMP:DateCreated"})
+        EXPECT_EQ(tags.valueForKey(key), KTValue("2014:06:01 12:00:00.25+02:00")) << key;
+    EXPECT_EQ(tags.valueForKey("XMP:City"), KTValue("Basel"));
+    EXPECT_EQ(tags.valueForKey("XMP:Description-de"), KTValue("alt")) << "another language stays";
+    EXPECT_EQ(open(file)->valueForKey("caption"), KTValue("new")) << "in every tag that is read";
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+}
+
 TEST_F(PhotoSaving, AFailedSaveLeavesTheFileAndTheChanges) {
     auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}});
     const std::string before = contentOf(file);
@@ -169,9 +206,14 @@ TEST_F(PhotoSaving, AValueThatTheFormatCannotHoldStaysPendingWithAWarning) {
 }
 
 TEST_F(PhotoSaving, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) {
-    auto file = makePhoto(
-        folder, "a.jpg",
-        {{"IPTC:Headline", "iptc headline"}, {"XMP:Headline", "xmp headline"}, {"IPTC:ObjectName", "t"}});
+    auto file = makePhoto(folder, "a.jpg",
+                          {{"IPTC:Headline", "iptc headline"},
+                           {"XMP:Headline", "xmp headline"},
+                           {"IPTC:ObjectName", "t"},
+                           {"IPTC:Source", "iptc alone"},
+                           {"XMP:Credit", "xmp alone"},
+                           {"XMP:WebStatement", "url"},
+                           {"Photoshop:URL", "other url"}});
     // A program that knows only IPTC changed it and left the digest of before.
     KTExifTool& tool = KTExifTool::sharedExifTool();
     tool.newExifTool();
@@ -181,9 +223,16 @@ TEST_F(PhotoSaving, IPTCFieldsThatDivergedKeepTheirValueWhenTheDigestIsRenewed) 
     ASSERT_TRUE(photo->source(KTMetadataSource::Image).properties.hasIPTCChecksum &&
                 !photo->source(KTMetadataSource::Image).properties.iptcChecksumDoesMatch);
     ASSERT_EQ(photo->valueForKey("headline"), KTValue("iptc headline"));
+    ASSERT_TRUE(photo->valueForKey("credit").isAbsent());
     photo->setValueForKey("title", "new");
     photo->saveWithBackupToFolder(std::nullopt);
     EXPECT_EQ(open(file)->valueForKey("headline"), KTValue("iptc headline"));
+    const KTTagDictionary tags = tagsOf(file);
+    EXPECT_EQ(tags.valueForKey("XMP:Credit"), KTValue("xmp alone")) << "nothing is deleted unasked";
+    EXPECT_EQ(photo->valueForKey("credit"), KTValue("xmp alone"))
+        << "the photo shows what the file tells now";
+    EXPECT_FALSE(tags.find("XMP:Source")) << "what only IPTC tells needs no second place";
+    EXPECT_EQ(tags.valueForKey("Photoshop:URL"), KTValue("other url")) << "no business of the digest";
 }
 
 TEST_F(PhotoSaving, AFileThatAnotherProgramChangedKeepsWhatThatProgramWrote) {

@@ -51,6 +51,12 @@ std::optional<KTFileDate> KTCreationDate(const std::filesystem::path& file) {
     return kept ? kept : dateOf(file, STATX_BTIME, &statx::stx_btime);
 }
 
+std::optional<KTFileDate> KTFileDateFromInstant(KTInstant instant) {
+    const KTInstant earliest = std::chrono::sys_days(std::chrono::year(1678) / 1 / 1);
+    const KTInstant end = std::chrono::sys_days(std::chrono::year(2262) / 1 / 1);
+    return instant >= earliest && instant < end ? std::optional<KTFileDate>(instant) : std::nullopt;
+}
+
 KTCreationDateOutcome KTSetCreationDate(const std::filesystem::path& file, KTFileDate date) {
     const auto wanted = std::chrono::floor<std::chrono::seconds>(date);
     if (keptCreationDate(file) == wanted)

@@ -1,5 +1,6 @@
 #pragma once
-#include <chrono>
+#include "platform/common/KTInstant.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -15,6 +16,9 @@ std::optional<KTFileDate> KTModificationDate(const std::filesystem::path& file);
 /// which no Linux file system lets a program set and which begins anew when a file is replaced. Nothing when
 /// neither is known.
 std::optional<KTFileDate> KTCreationDate(const std::filesystem::path& file);
+
+/// @p instant as a date of a file; nothing for one that KTFileDate cannot tell.
+std::optional<KTFileDate> KTFileDateFromInstant(KTInstant instant);
 
 /// What became of a wish that a file may have a certain creation date.
 struct KTCreationDateOutcome {

@@ -24,10 +24,15 @@ constexpr std::size_t kRandomLetters = 6;
 constexpr const char* kOwnerFile = ".waymark-owner";
 constexpr std::chrono::hours kLongerThanAnyReplacement(24);
 
-bool writeOwner(const fs::path& folder, const std::string& text) {
+bool writeOwner(const fs::path& folder, std::string_view text) {
     KTFileDescriptor file(folder / kOwnerFile, O_WRONLY | O_CREAT | O_EXCL, 0600);
-    return file.isOpen() &&
-           ::write(file.get(), text.data(), text.size()) == static_cast<ssize_t>(text.size()) && file.close();
+    while (file.isOpen() && !text.empty()) { // a disk that fills up takes a part before it says so
+        const ssize_t written = ::write(file.get(), text.data(), text.size());
+        if (written < 0)
+            return false;
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return file.isOpen() && file.close();
 }
 
 /// Takes the owner's name away last, so that a process killed meanwhile leaves a folder that still has one.

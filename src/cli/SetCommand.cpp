@@ -136,8 +136,8 @@ private:
                 photo->setValueForKey(key, value);
             const auto wanted = valuesOf(*photo, edits);
             photo->saveWithBackupToFolder(saving.backupFolder());
-            for (const auto& [key, value] : wanted)
-                if (!KTIsSameValue(value, photo->savedPropertyWithKey(key)))
+            for (const auto& [key, value] : wanted) // a failed save has said why
+                if (!photo->hasUnsavedChanges() && !KTIsSameValue(value, photo->savedPropertyWithKey(key)))
                     photo->addPhotoOperation(notKept(file, key));
         }
         operations = photo->photoOperations();

@@ -42,6 +42,35 @@ sub waymarkTags {
 }
 )perl";
 
+// The library takes a failed read for the end of the file, and would copy half a picture without a word. Each
+// of its reads therefore looks at the state of the file afterwards.
+constexpr const char* kReadWatch = R"perl(
+{
+    no strict 'refs';
+    no warnings 'redefine';
+    require IO::Handle;
+    foreach my $name (qw(Read ReadLine)) {
+        my $read = \&{"File::RandomAccess::$name"};
+        *{"File::RandomAccess::$name"} = sub {
+            my $file = $_[0]{FILE_PT};
+            my $result = &$read; # with the caller's own arguments: it fills one of them
+            $waymarkReadError = "$!" if ref $file and IO::Handle::error($file);
+            return $result;
+        };
+    }
+}
+)perl";
+
+/// The record of a write that could not begin.
+KTPhotoOperation failedWrite(const std::filesystem::path& file, std::string failure) {
+    KTPhotoOperation operation;
+    operation.url = file;
+    operation.operationDescription = KTLocalizedString("Write metadata to file");
+    operation.failureReason = 1;
+    operation.failureDescription = std::move(failure);
+    return operation;
+}
+
 } // namespace
 
 KTExifTool& KTExifTool::sharedExifTool() {
@@ -60,6 +89,7 @@ KTExifTool::KTExifTool() {
     evaluate("use lib $resourcePath;");
     evaluate("use Image::ExifTool;");
     evaluate(kWalk);
+    evaluate(kReadWatch);
 }
 
 KTPhotoOperation KTExifTool::extractAllKeysIntoDictionary(KTTagDictionary& dictionary,
@@ -77,6 +107,7 @@ KTPhotoOperation KTExifTool::extractAllTags(std::vector<KTTagDictionary::Entry>&
     evaluate("$fetchTool->Options(FixBase=>'', IgnoreMinorErrors=>1, Composite=>1, Duplicates => 1, "
              "PrintConv => 0, "
              "Sort => 'Group0', Exclude => 'ThumbnailImage');");
+    evaluate("undef $waymarkReadError;");
     setValueForVariable(fromFile.string(), "fetchToolPath");
     evaluate("$imageInfo = $fetchTool->ImageInfo($fetchToolPath);");
 
@@ -95,6 +126,7 @@ KTPhotoOperation KTExifTool::extractAllTags(std::vector<KTTagDictionary::Entry>&
                                     tags.push_back({KTTagKey(key), std::move(value)});
                                 });
     evaluate("undef $fetchTool;");
+    noteReadError(operation);
     return operation;
 }
 
@@ -116,19 +148,19 @@ KTPhotoOperation KTExifTool::writeChanges(const KTTagDictionary& changes, const 
     for (const auto& [key, value] : changes) {
         if (canBeQuoted(key))
             continue;
-        KTPhotoOperation refusal;
-        refusal.url = toFile;
-        refusal.operationDescription = KTLocalizedString("Write metadata to file");
-        refusal.failureReason = 1;
-        refusal.failureDescription = KTStringWithFormat(
-            KTLocalizedString("The tag key \"%@\" contains a quote or a backslash."), {std::string(key)});
-        return refusal;
+        return failedWrite(
+            toFile,
+            KTStringWithFormat(KTLocalizedString("The tag key \"%@\" contains a quote or a backslash."),
+                               {std::string(key)}));
     }
 
     newExifTool();
     if (toFile != fromSourceFile && isSidecarName(toFile)) {
         setValueForVariable(fromSourceFile.string(), "sourcePath");
-        evaluate("$exifTool->SetNewValuesFromFile($sourcePath, '*>xmp:*');");
+        evaluate("$temp = $exifTool->SetNewValuesFromFile($sourcePath, '*>xmp:*');");
+        const KTValue error = evaluate("$temp->{Error};");
+        if (error.isSomething()) // the sidecar would lack what the image tells
+            return failedWrite(toFile, error.description());
         evaluate("$exifTool->SetNewValue('ThumbnailImage');");
     }
     bool writesIPTC = false;
@@ -144,6 +176,7 @@ KTPhotoOperation KTExifTool::writeChanges(const KTTagDictionary& changes, const 
 
 void KTExifTool::newExifTool() {
     writeWarnings.clear();
+    evaluate("undef $waymarkReadError;");
     evaluate("$exifTool = new Image::ExifTool;");
     evaluate("$exifTool->Options(FixBase=>'', IgnoreMinorErrors=>1, PrintConv => 0);");
 }
@@ -212,7 +245,19 @@ KTPhotoOperation KTExifTool::writeResultToFile(const std::filesystem::path& toFi
             error.isSomething() ? error.description()
                                 : KTLocalizedString("An unknown error occurred when writing to the file.");
     }
+    if (noteReadError(operation))
+        operation.failureReason = 1;
     return operation;
+}
+
+bool KTExifTool::noteReadError(KTPhotoOperation& operation) {
+    const KTValue error = valueForVariable("waymarkReadError");
+    if (!error.isSomething())
+        return false;
+    operation.operationDidSucceed = false;
+    operation.failureDescription = KTStringWithFormat(
+        KTLocalizedString("The file could not be read to its end: %@"), {error.description()});
+    return true;
 }
 
 KTPhotoOperation KTExifTool::writeResultToFile(const std::filesystem::path& toFile) {

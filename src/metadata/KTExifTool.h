@@ -70,6 +70,9 @@ private:
     KTPhotoOperation writeChanges(const KTTagDictionary& changes, const std::filesystem::path& toFile,
                                   const std::filesystem::path& fromSourceFile);
     void setNewTexts(const std::vector<std::string>& texts, const std::string& quotedKey);
+    /// Makes @p operation a failure when a read of the file has failed since the variable was cleared;
+    /// whether it did.
+    bool noteReadError(KTPhotoOperation& operation);
     /// Evaluates a SetNewValue call and keeps the error text of a refused value.
     void evaluateSetNewValue(const std::string& call);
 

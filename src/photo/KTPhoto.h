@@ -49,7 +49,7 @@ public:
     std::string path() const { return imageURL.string(); }
     std::string filename() const { return imageURL.filename().string(); }
     std::filesystem::path xmpURL() const;
-    /// Asked of the file system at each call.
+    /// Asked of the file system at each call; true also where it does not answer.
     bool hasXMPSidecar() const;
     /// The uniform type identifier by the file's extension; absent for an unknown one.
     KTValue uti() const;

@@ -67,15 +67,17 @@ TEST_F(PhotoConcurrency, ThreadsEditWhileTheMainThreadReadsAndUndoes) {
     editors.waitUntilAllOperationsAreFinished();
     EXPECT_FALSE(wrongThread);
 
-    // Whatever came about, the record agrees with itself.
-    EXPECT_EQ(photo->isGeotagged(), !photo->geometry()->isEmpty());
-    EXPECT_EQ(photo->hasUnsavedChanges(), !imageChanges(photo).empty());
-    const KTValue title = photo->valueForKey("title");
-    EXPECT_EQ(imageChanges(photo).valueForKey("XMP:Title"), title);
+    // Whatever came about, the record agrees with itself; so it does when the way back is gone. (Where the
+    // way back leads is open: several threads have set one property at the same time.)
+    auto agrees = [&] {
+        return photo->isGeotagged() == !photo->geometry()->isEmpty() &&
+               photo->hasUnsavedChanges() == !imageChanges(photo).empty() &&
+               imageChanges(photo).valueForKey("XMP:Title") == photo->valueForKey("title") &&
+               imageChanges(photo).valueForKey("XMP:Description") == photo->valueForKey("caption");
+    };
+    EXPECT_TRUE(agrees());
     while (undo->undo())
-        ;
-    EXPECT_TRUE(photo->valueForKey("title").isAbsent());
-    EXPECT_FALSE(imageChanges(photo).find("XMP:Title"));
+        EXPECT_TRUE(agrees());
 }
 
 TEST_F(PhotoConcurrency, EditsDuringASaveStayPending) {

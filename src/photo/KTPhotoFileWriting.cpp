@@ -6,6 +6,7 @@
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/defaults/KTUserDefaults.h"
+#include "platform/desktop/KTBackup.h"
 #include "platform/desktop/KTFileCoordinator.h"
 #include "platform/desktop/KTFileDates.h"
 #include "platform/desktop/KTItemReplacement.h"
@@ -105,10 +106,8 @@ KTPhoto::WriteResult KTPhoto::writeAndReplace(const WriteRequest& request) {
 /// Prepares the write of a sidecar; false when it cannot begin.
 bool KTPhoto::beginSidecar(const WriteRequest& request, const fs::path& temporary) {
     KTFileCoordinator::addFilePresenter(*photoSidecar);
-    const auto& folder = request.backupFolder;
-    if (folder && request.expected) // a failure of this copy does not keep the save
-        static_cast<void>(
-            KTCopyItem(request.target, *folder / KTBackupName(*folder, request.target.filename())));
+    if (request.backupFolder && request.expected) // a failure of this copy does not keep the save
+        static_cast<void>(KTBackup::of(request.target, *request.backupFolder));
     std::error_code error;
     if (!fs::exists(request.contentFrom, error)) {
         log(request.target, "Create temporary item url",

@@ -10,7 +10,7 @@
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/defaults/KTUserDefaults.h"
-#include "platform/desktop/KTFileOperations.h"
+#include "platform/desktop/KTBackup.h"
 
 namespace fs = std::filesystem;
 
@@ -115,11 +115,11 @@ bool KTPhoto::backUpImage(const BackupFolder& folder, fs::path& backup) {
     std::error_code error;
     if (!backup.empty())
         fs::remove(backup, error);
-    backup = *folder / KTBackupName(*folder, imageURL.filename());
-    const auto failure = KTCopyItem(imageURL, backup);
-    if (failure)
-        log(imageURL, "Copy original image to backup folder", failure);
-    return !failure;
+    const KTBackup made = KTBackup::of(imageURL, *folder);
+    backup = made.file;
+    if (made.failure)
+        log(imageURL, "Copy original image to backup folder", made.failure);
+    return !made.failure;
 }
 
 KTPhoto::WriteRequest KTPhoto::imageRequest() const {

@@ -191,10 +191,11 @@ TEST_F(PhotoSavingFaults, AreSeenWhoeverCallsAndInTheOrderThatKeepsThemWhole) {
         seen.push_back(call.name + " " + call.file);
     auto next = seen.begin();
     for (const char* expected : // "fsync " brings the folder itself to disk
-         {"copy_file_range /backup/photo.jpg", "fsync /backup/photo.jpg", "open /.waymark/photo.jpg",
-          "write /.waymark/photo.jpg", "read /.waymark/photo.jpg", "fsync /.waymark/photo.jpg",
-          "rename /photo.jpg", "fsync ", "utimensat /photo.jpg", "unlinkat /.waymark/.waymark-owner",
-          "fsync /backup/photo.xmp", "write /.waymark/photo.xmp_exiftool_tmp", "read /.waymark/photo.xmp",
+         {"copy_file_range /backup/.waymark/photo.jpg", "fsync /backup/.waymark/photo.jpg",
+          "rename /backup/photo.jpg", "open /.waymark/photo.jpg", "write /.waymark/photo.jpg",
+          "read /.waymark/photo.jpg", "fsync /.waymark/photo.jpg", "rename /photo.jpg", "fsync ",
+          "utimensat /photo.jpg", "unlinkat /.waymark/.waymark-owner", "fsync /backup/.waymark/photo.xmp",
+          "rename /backup/photo.xmp", "write /.waymark/photo.xmp_exiftool_tmp", "read /.waymark/photo.xmp",
           "fsync /.waymark/photo.xmp", "rename /photo.xmp", "fsync ", "remove /.waymark"}) {
         const auto place = std::find(next, seen.end(), expected);
         EXPECT_NE(place, seen.end()) << expected;
@@ -339,6 +340,7 @@ TEST_F(PhotoSavingFaults, ProcessKilled) {
         scene.layOut();
         ASSERT_TRUE(isKilledSaving(scene, number));
         EXPECT_TRUE(scene.outcome().isWhole);
+        EXPECT_TRUE(scene.hasWholeBackups());
         if (leavesNamelessFolder(call))
             for (const fs::path& left : scene.foldersLeftBehind())
                 fs::last_write_time(left, fs::file_time_type::clock::now() - std::chrono::hours(25));

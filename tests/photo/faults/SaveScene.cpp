@@ -1,6 +1,7 @@
 #include "tests/photo/faults/SaveScene.h"
 
 #include "photo/KTSaveTargets.h"
+#include "platform/desktop/KTItemReplacement.h"
 
 #include <array>
 #include <sys/xattr.h>
@@ -154,6 +155,8 @@ bool SaveScene::keptRightsAndDates() const {
 
 bool SaveScene::hasWholeBackups() const {
     return std::ranges::all_of(fs::directory_iterator(home / "backup"), [this](const auto& entry) {
+        if (KTItemReplacement::isReplacementFolder(entry.path().filename())) // not a backup yet
+            return true;
         const std::string content = contentOf(entry.path());
         return !content.empty() &&
                std::ranges::find(originals, content, &Original::content) != originals.end();
@@ -162,8 +165,9 @@ bool SaveScene::hasWholeBackups() const {
 
 std::vector<fs::path> SaveScene::foldersLeftBehind() const {
     std::vector<fs::path> result;
-    for (const auto& entry : fs::directory_iterator(home))
-        if (entry.path().filename().string().starts_with(".waymark-"))
-            result.push_back(entry.path());
+    for (const fs::path& folder : {home, home / "backup"})
+        for (const auto& entry : fs::directory_iterator(folder))
+            if (KTItemReplacement::isReplacementFolder(entry.path().filename()))
+                result.push_back(entry.path());
     return result;
 }

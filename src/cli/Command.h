@@ -29,6 +29,7 @@ void addReadCommand(CLI::App& app, CommandList& commands);
 void addFieldsCommand(CLI::App& app, CommandList& commands);
 void addSetCommand(CLI::App& app, CommandList& commands);
 void addGeotagCommand(CLI::App& app, CommandList& commands);
+void addPlaceCommand(CLI::App& app, CommandList& commands);
 void addTracksCommands(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
 

@@ -3,6 +3,7 @@
 #include "platform/common/KTUnitConverter.h"
 #include "platform/defaults/KTSettingsTable.h"
 #include "platform/defaults/KTUserDefaults.h"
+#include "platform/desktop/KTAboutText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,7 +17,7 @@ struct GlobalOptions {
 };
 
 void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
-    app.set_version_flag("--version", "waymark-cli " WAYMARK_VERSION);
+    app.set_version_flag("--version", [] { return KTAboutText("waymark-cli"); });
     app.add_flag("--json", session.json, "One JSON document on standard output instead of text");
     app.add_option("--settings", options.settings, "Use this settings file instead of the user's")
         ->type_name("FILE");
@@ -69,6 +70,7 @@ int runCommandLine(int argc, char** argv) {
     addFieldsCommand(app, commands);
     addSetCommand(app, commands);
     addGeotagCommand(app, commands);
+    addPlaceCommand(app, commands);
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
     try {

@@ -7,6 +7,7 @@
 #include "photo/KTPhotoChangeTracker.h"
 #include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
+#include "platform/gazetteer/KTGazetteer.h"
 #include "platform/tracklibrary/KTTrackPointSearch.h"
 
 #include <CLI/CLI.hpp>
@@ -16,6 +17,12 @@ namespace {
 /// Settings that an option stands for hold for this run only.
 void override(std::string_view key, const KTValue& value) {
     KTUserDefaults::standardUserDefaults().setValueForThisRun(key, value);
+}
+
+bool wantsPlace() {
+    const KTUserDefaults& settings = KTUserDefaults::standardUserDefaults();
+    return settings.boolForKey("defaultLatLonCreatedShouldReverseGeocodeLocationCreated") ||
+           settings.boolForKey("defaultLatLonCreatedShouldReverseGeocodeLocationShown");
 }
 
 } // namespace
@@ -45,6 +52,10 @@ void GeotagCommand::applyOptions() {
         override("shouldIgnorePreviouslyTaggedPhotos", false);
     if (noAltitude)
         override("defaultShouldSaveAltitude", false);
+    if (noPlace) {
+        override("defaultLatLonCreatedShouldReverseGeocodeLocationCreated", false);
+        override("defaultLatLonCreatedShouldReverseGeocodeLocationShown", false);
+    }
     saving.apply();
 }
 
@@ -57,6 +68,7 @@ int GeotagCommand::run(CommandSession& session) {
     const KTTrackPointSearch search({&library->store(), &runTracks->store()});
     const auto criteria = KTGeotaggingCriteria::criteriaFromDefaults(KTUserDefaults::standardUserDefaults());
     const auto files = session.photoFiles(paths);
+    const KTGazetteer::Batch batch(KTGazetteer::sharedGazetteer());
     GeotagReport report(session, criteria, dryRun);
     for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
         session.showProgress(dryRun ? "Loading image %lu of %lu" : "Geotagging photo %u of %u", i + 1,
@@ -94,46 +106,48 @@ GeotagOutcome GeotagCommand::geotag(const std::filesystem::path& file, const KTG
     const auto photo = KTPhoto::initWithFile(file, {}, nullptr, {.log = &outcome.operations});
     outcome.wasRead = photo && photo->isValid();
     if (outcome.wasRead)
-        judge(*photo, outcome, criteria, search);
+        judge(photo, outcome, criteria, search);
     if (photo)
         outcome.operations = photo->photoOperations();
     return outcome;
 }
 
-void GeotagCommand::judge(KTPhoto& photo, GeotagOutcome& outcome, const KTGeotaggingCriteria& criteria,
-                          const KTTrackPointSearch& search) {
-    const auto instant = photo.dateTimeOriginal();
+void GeotagCommand::judge(const std::shared_ptr<KTPhoto>& photo, GeotagOutcome& outcome,
+                          const KTGeotaggingCriteria& criteria, const KTTrackPointSearch& search) {
+    const auto instant = photo->dateTimeOriginal();
     if (instant) {
         outcome.neighbours.preceding = search.pointPrecedingTime(*instant);
         outcome.neighbours.next = search.pointFollowingTime(*instant);
         outcome.instant = instant;
         noteZone(*instant);
     }
-    outcome.verdict = KTJudgePhoto(criteria, photo.isGeotagged(), instant, outcome.neighbours);
+    outcome.verdict = KTJudgePhoto(criteria, photo->isGeotagged(), instant, outcome.neighbours);
     if (outcome.verdict == KTGeotaggingVerdict::Accepted && instant) {
         outcome.choice = KTChoosePoint(criteria, *instant, outcome.neighbours);
-        outcome.point = pointOf(outcome);
+        outcome.point = pointOf(outcome, photo);
     }
+    if (outcome.point && wantsPlace())
+        outcome.point->waitUntilLocationDescriptionFetchIsCompleted();
     if (outcome.point && !dryRun) {
-        const KTPhotoChangeTracker tracker(photo);
-        photo.setLocationCreatedFromPoint(*outcome.point);
-        photo.saveWithBackupToFolder(saving.backupFolder());
-        outcome.saved = !photo.hasUnsavedChanges();
+        const KTPhotoChangeTracker tracker(*photo);
+        photo->setLocationCreatedFromLinkablePoint(outcome.point);
+        photo->saveWithBackupToFolder(saving.backupFolder());
+        outcome.saved = !photo->hasUnsavedChanges();
     }
 }
 
-std::optional<KTGeoPoint> GeotagCommand::pointOf(const GeotagOutcome& outcome) {
-    if (!outcome.choice)
-        return std::nullopt;
-    switch (*outcome.choice) {
-    case KTPointChoice::Preceding:
-        return outcome.neighbours.preceding;
-    case KTPointChoice::Next:
-        return outcome.neighbours.next;
-    default:
-        return KTTimeWeightedPosition(*outcome.neighbours.preceding, *outcome.neighbours.next,
-                                      *outcome.instant);
-    }
+std::shared_ptr<KTLinkablePoint> GeotagCommand::pointOf(const GeotagOutcome& outcome,
+                                                        std::shared_ptr<KTPhoto> photo) {
+    const auto& [preceding, next] = outcome.neighbours;
+    if (outcome.choice == KTPointChoice::Preceding)
+        return KTLinkablePoint::initWithGeoPoint(preceding, KTLinkablePointTypePreceding, std::move(photo));
+    if (outcome.choice == KTPointChoice::Next)
+        return KTLinkablePoint::initWithGeoPoint(next, KTLinkablePointTypeNext, std::move(photo));
+    const auto between = outcome.choice ? KTTimeWeightedPosition(*preceding, *next, *outcome.instant)
+                                        : std::optional<KTGeoPoint>();
+    return between
+               ? KTLinkablePoint::initWithGeoPoint(between, KTLinkablePointTypeTimeWeighted, std::move(photo))
+               : nullptr;
 }
 
 /// The assumed zone is one fixed offset. Where a region was named whose clocks stood elsewhere at the time of

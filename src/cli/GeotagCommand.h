@@ -23,9 +23,10 @@ private:
     /// The photo's fate; writes it unless this is a dry run.
     GeotagOutcome geotag(const std::filesystem::path& file, const KTGeotaggingCriteria& criteria,
                          const KTTrackPointSearch& search);
-    void judge(KTPhoto& photo, GeotagOutcome& outcome, const KTGeotaggingCriteria& criteria,
-               const KTTrackPointSearch& search);
-    static std::optional<KTGeoPoint> pointOf(const GeotagOutcome& outcome);
+    void judge(const std::shared_ptr<KTPhoto>& photo, GeotagOutcome& outcome,
+               const KTGeotaggingCriteria& criteria, const KTTrackPointSearch& search);
+    static std::shared_ptr<KTLinkablePoint> pointOf(const GeotagOutcome& outcome,
+                                                    std::shared_ptr<KTPhoto> photo);
     void noteZone(KTInstant instant);
     void warnAboutZoneChanges(const CommandSession& session) const;
 

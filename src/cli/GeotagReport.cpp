@@ -1,6 +1,7 @@
 #include "cli/GeotagReport.h"
 
 #include "platform/common/KTUnitConverter.h"
+#include "platform/gazetteer/KTGazetteer.h"
 
 std::string_view GeotagOutcome::name() const {
     if (!wasRead)
@@ -69,13 +70,19 @@ void GeotagReport::printJSON(const GeotagOutcome& outcome) {
     json->member("outcome", outcome.name());
     json->member("point", outcome.pointName());
     if (outcome.point) {
-        json->member("latitude", outcome.point->latitude);
-        json->member("longitude", outcome.point->longitude);
-        json->member("altitude", outcome.point->elevation);
-        json->member("gpsDateTime", outcome.point->date);
+        json->member("latitude", outcome.point->latitude());
+        json->member("longitude", outcome.point->longitude());
+        json->member("altitude", outcome.point->elevation());
+        json->member("gpsDateTime", outcome.point->date());
     }
     json->member("secondsToPreceding", gap(outcome.neighbours.preceding));
     json->member("secondsToNext", gap(outcome.neighbours.next));
+    if (outcome.point) {
+        const KTValue::Dictionary place = outcome.point->locationDictionary();
+        for (std::string_view key : {"city", "state", "country"})
+            if (const auto name = place.find(key); name != place.end())
+                json->member(key, name->second);
+    }
     if (!dryRun && outcome.point)
         json->member("saved", outcome.saved);
     json->member("operations", outcome.operations);
@@ -86,11 +93,15 @@ void GeotagReport::printText(const GeotagOutcome& outcome) const {
     std::string line = outcome.path.string() + ": " + std::string(outcome.name());
     if (outcome.point) {
         auto text = [](const std::optional<KTDecimal>& number) { return number ? number->toText() : "?"; };
-        line += " " + text(outcome.point->latitude) + ", " + text(outcome.point->longitude);
-        if (outcome.point->elevation)
+        line += " " + text(outcome.point->latitude()) + ", " + text(outcome.point->longitude());
+        if (outcome.point->elevation())
             line += ", " + KTUnitConverter::sharedUnitConverter().heightDescriptionFromMeters(
-                               *outcome.point->elevation);
+                               *outcome.point->elevation());
         line += " (" + outcome.pointName().description() + ")";
+        const std::string place =
+            KTGazetteer::locationDescriptionFromDictionary(outcome.point->locationDictionary());
+        if (!place.empty() && !outcome.point->requestFailure())
+            line += " " + place;
         line += dryRun ? " [dry run]" : outcome.saved ? "" : " NOT SAVED";
     }
     std::printf("%s\n", line.c_str());

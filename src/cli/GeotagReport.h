@@ -2,6 +2,7 @@
 #include "cli/CommandSession.h"
 #include "cli/JSONOutput.h"
 #include "geotagging/KTGeotaggingSummary.h"
+#include "photo/KTLinkablePoint.h"
 
 /// What became of one photo.
 struct GeotagOutcome {
@@ -11,7 +12,7 @@ struct GeotagOutcome {
     std::optional<KTInstant> instant;
     KTTrackNeighbours neighbours;
     std::optional<KTPointChoice> choice;
-    std::optional<KTGeoPoint> point;
+    std::shared_ptr<KTLinkablePoint> point;
     bool saved = false;
     std::vector<KTPhotoOperation> operations;
 

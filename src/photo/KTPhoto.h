@@ -6,10 +6,10 @@
 #include "platform/cartography/KTSpatialObject.h"
 #include "platform/desktop/KTFileDates.h"
 #include "platform/desktop/KTFilePresenter.h"
-#include "platform/tracklibrary/KTGeoPoint.h"
 
 #include <array>
 
+class KTLinkablePoint;
 class KTMultiPointGeometry;
 struct KTMapPoint;
 class KTPhotoSidecar;
@@ -92,10 +92,27 @@ public:
     bool hasLatitudeLongitudeShown() const;
     /// Clears position, altitude, GPS time, datum and version, each through its setter.
     void removeAllGPSValues();
-    /// Geotags the photo from @p point, under the location settings, as one undo step "Geotag Photos":
-    /// position, datum, GPS version, the altitude where the point has an elevation, and the GPS time (cleared
-    /// for a point without a date). Holds the undo queue, as setValuesForKeysWithDictionary does.
-    void setLocationCreatedFromPoint(const KTGeoPoint& point);
+
+    // Geotagging (KTPhotoLocation.cpp), under the location settings. Each is one undo step and holds the undo
+    // queue, as setValuesForKeysWithDictionary does. A point without a position changes nothing.
+    //
+    // Where place names are to be written they are waited for. The main thread never waits: there the edit is
+    // made later, from its event loop, as soon as they are known, in the order of the calls. Why there are
+    // none is a warning in the log.
+    /// "Geotag Photos": the place where the picture was taken, with position, datum, GPS version, altitude
+    /// where the point has an elevation, GPS time (cleared unless the point is a track point of a date), and
+    /// the names of the place, for the place shown as well.
+    void setLocationCreatedFromLinkablePoint(const std::shared_ptr<KTLinkablePoint>& point);
+    /// "Set Location Shown": the place that the picture shows, its names, and the image direction, the
+    /// bearing from the photo's own position (0, 0 for none) to that place.
+    void setLocationShownFromLinkablePoint(const std::shared_ptr<KTLinkablePoint>& point);
+    /// "Reverse Geocode": only the names of the place created or shown.
+    void reverseGeocodeLocationCreatedFromLinkablePoint(const std::shared_ptr<KTLinkablePoint>& point);
+    void reverseGeocodeLocationShownFromLinkablePoint(const std::shared_ptr<KTLinkablePoint>& point);
+    /// The place names that the settings and the photo's present ones let be written, by key. Waits for those
+    /// of @p point if any is; the main thread takes what is known.
+    KTValue::Dictionary locationCreatedDictionaryFromLinkablePoint(KTLinkablePoint& point) const;
+    KTValue::Dictionary locationShownDictionaryFromLinkablePoint(KTLinkablePoint& point) const;
 
     // Capture dates. The instant is the components' reading in their zone, nothing without date, calendar or
     // zone. The shift is in seconds, counted from the date saved in the file. Each setter but that of the
@@ -256,6 +273,19 @@ private:
     // Presentation (KTPhotoPresentation.cpp)
     std::optional<KTMapPoint> positionOf(std::string_view longitude, std::string_view latitude) const;
 
+    // Geotagging (KTPhotoLocation.cpp)
+    struct PlaceName;
+    struct PlaceNames;
+    using Names = std::vector<const PlaceName*>;
+    using Places = std::vector<const PlaceNames*>;
+    static const PlaceNames kPlaceCreated, kPlaceShown;
+    void editLocation(const std::shared_ptr<KTLinkablePoint>& point, const KTValue::Dictionary& position,
+                      Places places, const char* actionName);
+    void applyLocation(KTLinkablePoint& point, KTValue::Dictionary edit, const Places& places,
+                       const char* actionName);
+    Names wantedNames(const PlaceNames& place) const;
+    KTValue::Dictionary placeNames(const PlaceNames& place, KTLinkablePoint& point) const;
+
     // Dates (KTPhotoDates.cpp)
     void changeDates(KTPhotoDateFamily::Which which, std::initializer_list<std::string_view> keys,
                      const std::function<KTPhotoDateFamily::Reading(KTPhotoDateFamily&)>& store);
@@ -330,6 +360,7 @@ private:
     std::atomic<bool> checkIsDue = false;     // put off to the end of a grouped edit
     std::atomic<bool> sidecarOfGroup = false; // whether there was one at its beginning
     std::atomic<int> trackers = 0;
+    int locationEditsPutOff = 0; // for the main thread
     std::atomic<KTSpatialObjectController*> owner = nullptr;
     std::unique_ptr<KTPhotoSidecar> photoSidecar;
     KTOperationQueue presenterQueue;

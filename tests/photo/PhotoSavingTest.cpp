@@ -1,5 +1,6 @@
 #include "tests/photo/PhotoFixture.h"
 
+#include "photo/KTLinkablePoint.h"
 #include "photo/KTWrittenValues.h"
 #include "platform/desktop/KTFileDates.h"
 
@@ -23,7 +24,11 @@ bool leftNothingBehind(const TemporaryFolder& folder, std::size_t files) {
 TEST_F(PhotoSaving, GeotagsThroughOneSafeWrite) {
     auto file = makePhoto(folder, "a.jpg", {{"EXIF:Make", "Canon"}, {"EXIF:GPSAltitude", 7}});
     auto photo = open(file);
-    photo->setLocationCreatedFromPoint(basel());
+    for (const char* setting : {"defaultLatLonCreatedShouldReverseGeocodeLocationCreated",
+                                "defaultLatLonCreatedShouldReverseGeocodeLocationShown"})
+        set(setting, false);
+    photo->setLocationCreatedFromLinkablePoint(
+        KTLinkablePoint::initWithGeoPoint(basel(), KTLinkablePointTypeNext));
     photo->saveWithBackupToFolder(std::nullopt);
     EXPECT_FALSE(photo->hasUnsavedChanges()) << lastWrite(photo).resultDescription();
     EXPECT_EQ(lastWrite(photo).resultType(), KTPhotoOperation::Success)
@@ -48,7 +53,8 @@ TEST_F(PhotoSaving, GeotagsThroughOneSafeWrite) {
     EXPECT_TRUE(leftNothingBehind(folder, 1));
 
     KTGeoPoint interpolated{{}, *KTDecimal::fromText("1.5"), *KTDecimal::fromText("2.5"), {}};
-    photo->setLocationCreatedFromPoint(interpolated);
+    photo->setLocationCreatedFromLinkablePoint(
+        KTLinkablePoint::initWithGeoPoint(interpolated, KTLinkablePointTypeTimeWeighted));
     photo->saveWithBackupToFolder(std::nullopt);
     tags = tagsOf(file);
     EXPECT_FALSE(tags.find("EXIF:GPSTimeStamp")) << "a point without a date clears the GPS time";

@@ -29,5 +29,11 @@ struct KTStarSymbolizer {
     bool operator==(const KTStarSymbolizer&) const = default;
 };
 
+/// A flag at a candidate location, by where that comes from; under the pointer it opens a bubble that tells
+/// of the candidate.
+struct KTLinkablePointSmartSymbolizer {
+    bool operator==(const KTLinkablePointSmartSymbolizer&) const = default;
+};
+
 using KTSymbolizer = std::variant<KTShinyBallSymbolizer, KTCompassFingerSymbolizer, KTGeodesicLineSymbolizer,
-                                  KTPieWedgeSymbolizer, KTStarSymbolizer>;
+                                  KTPieWedgeSymbolizer, KTStarSymbolizer, KTLinkablePointSmartSymbolizer>;

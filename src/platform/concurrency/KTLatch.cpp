@@ -18,11 +18,19 @@ bool KTLatch::hasHappened() {
 
 void KTLatch::wait() {
     if (KTMainThread::isCurrent())
-        return KTMainThread::serveCallsUntil([this] { return hasHappened(); });
+        return static_cast<void>(KTMainThread::serveCallsUntil([this] { return hasHappened(); }));
     waitWithoutServing();
 }
 
 void KTLatch::waitWithoutServing() {
     std::unique_lock lock(mutex);
     happened.wait(lock, [this] { return isSignalled; });
+}
+
+bool KTLatch::waitFor(std::chrono::milliseconds limit) {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    if (KTMainThread::isCurrent())
+        return KTMainThread::serveCallsUntil([this] { return hasHappened(); }, deadline);
+    std::unique_lock lock(mutex);
+    return happened.wait_until(lock, deadline, [this] { return isSignalled; });
 }

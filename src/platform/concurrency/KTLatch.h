@@ -1,4 +1,5 @@
 #pragma once
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 
@@ -10,6 +11,8 @@ public:
     /// for it has returned.
     void signal();
     void wait();
+    /// As above, for @p limit at most; whether it has happened.
+    bool waitFor(std::chrono::milliseconds limit);
     /// The same, but the main thread serves nobody: for what surely happens without it.
     void waitWithoutServing();
 

@@ -29,7 +29,8 @@ public:
 
     bool performAndWait(const std::function<void()>& call);
     void perform(std::function<void()> call);
-    void serveUntil(const std::function<bool()>& isDone);
+    using Deadline = std::optional<std::chrono::steady_clock::time_point>;
+    bool serveUntil(const std::function<bool()>& isDone, Deadline deadline);
     void serveFromEventLoop();
     void wake();
     void close();
@@ -114,13 +115,18 @@ void MainCalls::perform(std::function<void()> call) {
     wakeEventLoop();
 }
 
-void MainCalls::serveUntil(const std::function<bool()>& isDone) {
+bool MainCalls::serveUntil(const std::function<bool()>& isDone, Deadline deadline) {
     std::unique_lock lock(mutex);
     for (;;) {
         if (isDone())
-            return;
+            return true;
+        if (deadline && std::chrono::steady_clock::now() >= *deadline)
+            return false;
         if (waiting.empty()) {
-            changed.wait(lock);
+            if (deadline)
+                changed.wait_until(lock, *deadline);
+            else
+                changed.wait(lock);
             continue;
         }
         WaitingCall* call = waiting.front();
@@ -183,9 +189,10 @@ void KTMainThread::close() {
     MainCalls::shared().close();
 }
 
-void KTMainThread::serveCallsUntil(const std::function<bool()>& isDone) {
+bool KTMainThread::serveCallsUntil(const std::function<bool()>& isDone,
+                                   std::optional<std::chrono::steady_clock::time_point> deadline) {
     assert(isCurrent());
-    MainCalls::shared().serveUntil(isDone);
+    return MainCalls::shared().serveUntil(isDone, deadline);
 }
 
 void KTMainThread::wake() {

@@ -1,5 +1,7 @@
 #pragma once
+#include <chrono>
 #include <functional>
+#include <optional>
 
 /// Runs @p call on the main thread and waits for its end; at once when this is the main thread. The call
 /// belongs to the caller's logical call. It is served by the event loop, or by a wait that the main thread is
@@ -21,9 +23,10 @@ public:
     static void close();
 
     /// What waits of the main thread are made of: returns when @p isDone does, which is asked again after
-    /// each `wake`; meanwhile serves the calls that other threads wait for. On the main thread. @p isDone is
-    /// asked under a lock: it may only look.
-    static void serveCallsUntil(const std::function<bool()>& isDone);
+    /// each `wake`, or at the deadline; meanwhile serves the calls that other threads wait for. On the main
+    /// thread. @p isDone is asked under a lock: it may only look. Whether it was done.
+    static bool serveCallsUntil(const std::function<bool()>& isDone,
+                                std::optional<std::chrono::steady_clock::time_point> deadline = {});
     /// Tells such a wait that something may be done now. Any thread.
     static void wake();
 };

@@ -103,6 +103,8 @@ constexpr KTSetting kSettings[] = {
 
     // This platform's own
     {"distanceUnits", Text, {}, unitsOfLocale, "metric|imperial|nautical"},
+    {"reverseGeocoder", Text, "offline", nullptr, "offline|server"},
+    {"reverseGeocoderServer", Text, ""},
 };
 // clang-format on
 

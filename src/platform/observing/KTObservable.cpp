@@ -3,12 +3,9 @@
 #include "platform/common/KTCallContext.h"
 
 struct KTObserverList {
-    struct Entry {
-        std::uint64_t id;
-        std::shared_ptr<const KTObservable::Handler> handler;
-    };
     std::mutex mutex;
-    std::vector<Entry> entries;
+    // Some objects have tens of thousands of observers that come and go.
+    std::map<std::uint64_t, std::shared_ptr<const KTObservable::Handler>> entries;
     std::uint64_t nextId = 1;
 };
 
@@ -22,7 +19,7 @@ KTObservable::Observation& KTObservable::Observation::operator=(Observation&& ot
 void KTObservable::Observation::stop() {
     if (auto observers = list.lock()) {
         std::lock_guard guard(observers->mutex);
-        std::erase_if(observers->entries, [this](const auto& entry) { return entry.id == id; });
+        observers->entries.erase(id);
     }
     list.reset();
 }
@@ -35,7 +32,7 @@ KTObservable::Observation KTObservable::observe(Handler handler) {
     Observation observation;
     observation.list = observers;
     observation.id = observers->nextId++;
-    observers->entries.push_back({observation.id, std::make_shared<const Handler>(std::move(handler))});
+    observers->entries.emplace(observation.id, std::make_shared<const Handler>(std::move(handler)));
     return observation;
 }
 
@@ -49,14 +46,16 @@ void KTObservable::didChange(std::string_view key, KTChange::Kind kind, std::vec
 }
 
 void KTObservable::announce(const KTChange& change) {
-    std::vector<KTObserverList::Entry> snapshot;
+    std::vector<std::shared_ptr<const Handler>> snapshot;
     {
         std::lock_guard guard(observers->mutex);
         if (observers->entries.empty())
             return;
-        snapshot = observers->entries;
+        snapshot.reserve(observers->entries.size());
+        for (const auto& [id, handler] : observers->entries)
+            snapshot.push_back(handler);
     }
     const KTCallout callout;
-    for (const auto& entry : snapshot)
-        (*entry.handler)(change);
+    for (const auto& handler : snapshot)
+        (*handler)(change);
 }

@@ -48,6 +48,14 @@ TEST(MainThread, EveryWaitServesTheCallsThatOthersWaitFor) {
         ended.wait(); // also a later wait returns
     });
     expectThatItServesWaitingCallsOnly([](auto work) {
+        KTLatch ended;
+        std::jthread thread([&] {
+            work();
+            ended.signal();
+        });
+        EXPECT_TRUE(ended.waitFor(std::chrono::minutes(1)));
+    });
+    expectThatItServesWaitingCallsOnly([](auto work) {
         KTSerialQueue queue("test", KTSerialQueue::Kind::Announcing);
         queue.async(work);
         queue.sync([] {});
@@ -67,6 +75,13 @@ TEST(MainThread, EveryWaitServesTheCallsThatOthersWaitFor) {
         queue.addOperation(operation);
         operation->waitUntilFinished();
     });
+}
+
+TEST(MainThread, AWaitMayHaveALimit) {
+    KTLatch never;
+    std::jthread thread([&] { EXPECT_FALSE(never.waitFor(std::chrono::milliseconds(1))); });
+    EXPECT_FALSE(never.waitFor(std::chrono::milliseconds(1)));
+    EXPECT_FALSE(never.waitFor(std::chrono::milliseconds(-1)));
 }
 
 TEST(MainThread, AWorkerMayWaitForItWhileItWaitsForTheWorkersQueue) {

@@ -1,0 +1,19 @@
+#pragma once
+#include "platform/gazetteer/HTTPAnswer.h"
+
+#include <stop_token>
+
+/// One GET request over HTTP or HTTPS. Sends no cookies, no credentials and no referrer, and keeps nothing.
+/// Redirects are followed within the host only, and never from https to http.
+struct HTTPGet {
+    std::string url; ///< percent-encoded
+    std::string userAgent;
+    std::string language; ///< as in Accept-Language
+    std::chrono::milliseconds timeout =
+        std::chrono::seconds(10);        ///< from the first byte sent to the last received
+    std::size_t largestBody = 1'000'000; ///< bytes, uncompressed
+
+    /// Waits for the answer. Any thread, with or without event loop, that a QCoreApplication outlives; the
+    /// thread's other events are served meanwhile. Returns within a tenth of a second after @p stop.
+    HTTPAnswer perform(const std::stop_token& stop) const;
+};

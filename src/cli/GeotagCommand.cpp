@@ -19,12 +19,6 @@ void override(std::string_view key, const KTValue& value) {
     KTUserDefaults::standardUserDefaults().setValueForThisRun(key, value);
 }
 
-bool wantsPlace() {
-    const KTUserDefaults& settings = KTUserDefaults::standardUserDefaults();
-    return settings.boolForKey("defaultLatLonCreatedShouldReverseGeocodeLocationCreated") ||
-           settings.boolForKey("defaultLatLonCreatedShouldReverseGeocodeLocationShown");
-}
-
 } // namespace
 
 void GeotagCommand::applyOptions() {
@@ -126,7 +120,7 @@ void GeotagCommand::judge(const std::shared_ptr<KTPhoto>& photo, GeotagOutcome& 
         outcome.choice = KTChoosePoint(criteria, *instant, outcome.neighbours);
         outcome.point = pointOf(outcome, photo);
     }
-    if (outcome.point && wantsPlace())
+    if (outcome.point && photo->geotaggingWantsPlaceNames())
         outcome.point->waitUntilLocationDescriptionFetchIsCompleted();
     if (outcome.point && !dryRun) {
         const KTPhotoChangeTracker tracker(*photo);

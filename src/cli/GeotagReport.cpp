@@ -53,6 +53,8 @@ void GeotagReport::add(const GeotagOutcome& outcome) {
         if (operation.resultType() == KTPhotoOperation::Failure ||
             (operation.resultType() == KTPhotoOperation::Warning && outcome.point))
             session.message(outcome.path.string() + ": " + operation.resultDescription());
+    if (dryRun && outcome.point && outcome.point->requestFailure())
+        session.message(outcome.path.string() + ": " + *outcome.point->requestFailure());
     if (json)
         printJSON(outcome);
     else

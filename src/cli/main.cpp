@@ -1,9 +1,13 @@
 #include "cli/Command.h"
 
+#include "platform/gazetteer/KTGazetteer.h"
+
 #include <QCoreApplication>
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName("waymark");
-    return runCommandLine(argc, argv);
+    const int status = runCommandLine(argc, argv);
+    KTGazetteer::sharedGazetteer().close(); // while there still is an application
+    return status;
 }

@@ -14,15 +14,16 @@ namespace {
 
 /// How the points between a photo and its track are described. Map points have no texts.
 struct PointTexts {
+    const char* featureName;
     const char* title;
     const char* description; // null for what the distances tell
     const char* longDescription;
 };
 constexpr PointTexts kTexts[] = {
-    {nullptr, nullptr, nullptr},
-    {"Preceding track point", "%@ before photo.", "%@ before %@."},
-    {"Next track point", "%@ after photo.", "%@ after %@."},
-    {"Time weighted average point", nullptr, nullptr},
+    {nullptr, nullptr, nullptr, nullptr},
+    {"Preceding point", "Preceding track point", "%@ before photo.", "%@ before %@."},
+    {"Next point", "Next track point", "%@ after photo.", "%@ after %@."},
+    {"Time weighted average point", "Time weighted average point", nullptr, nullptr},
 };
 
 std::optional<KTDecimal> unlessNaN(const std::optional<KTDecimal>& number) {
@@ -43,10 +44,11 @@ std::shared_ptr<KTLinkablePoint> KTLinkablePoint::initWithGeoPoint(const std::op
     std::shared_ptr<KTLinkablePoint> made(new KTLinkablePoint);
     if (point)
         made->copyGeoPoint(*point);
-    made->setLinkablePointType(forType);
+    made->type = forType;
     made->nameOfPhoto = photo ? photo->filename() : std::string();
     made->madeFor = std::move(photo);
     made->describeRelativeToPhoto();
+    made->setLinkablePointType(forType); // observes, so from now on other threads may know the point
     made->reverseGeocoder =
         KTGazetteer::sharedGazetteer().observe([weak = std::weak_ptr(made)](const KTChange& change) {
             if (const auto self = change.isPrior ? nullptr : weak.lock())
@@ -116,27 +118,43 @@ std::string KTLinkablePoint::pointLongDescription() const {
     return longText;
 }
 
+double KTLinkablePoint::precedingDistance() const {
+    std::lock_guard guard(mutex);
+    return metresToPreceding;
+}
+
+double KTLinkablePoint::nextDistance() const {
+    std::lock_guard guard(mutex);
+    return metresToNext;
+}
+
 void KTLinkablePoint::setPrecedingDistance(double metres) {
-    metresToPreceding = metres;
-    updateDescriptions();
+    setDistance(metresToPreceding, metres);
 }
 
 void KTLinkablePoint::setNextDistance(double metres) {
-    metresToNext = metres;
+    setDistance(metresToNext, metres);
+}
+
+void KTLinkablePoint::setDistance(double& distance, double metres) {
+    {
+        std::lock_guard guard(mutex);
+        distance = metres;
+    }
     updateDescriptions();
 }
 
 void KTLinkablePoint::updateDescriptions() {
     if (type != KTLinkablePointTypeTimeWeighted)
         return;
-    auto distance = [](double metres) {
-        return KTUnitConverter::sharedUnitConverter().roundedDefaultDistanceDescriptionFromMeters(metres);
-    };
-    const std::string preceding = distance(metresToPreceding), next = distance(metresToNext);
     for (std::string_view key : {"pointDescription", "pointLongDescription"})
         willChange(key);
     {
         std::lock_guard guard(mutex);
+        const KTUnitConverter& converter = KTUnitConverter::sharedUnitConverter();
+        const std::string preceding =
+                              converter.roundedDefaultDistanceDescriptionFromMeters(metresToPreceding),
+                          next = converter.roundedDefaultDistanceDescriptionFromMeters(metresToNext);
         shortText =
             KTStringWithFormat("%@ from preceding track point and %@ to next track point", {preceding, next});
         longText = KTStringWithFormat("%@ from preceding track point and %@ to next track point for %@",
@@ -144,6 +162,11 @@ void KTLinkablePoint::updateDescriptions() {
     }
     for (std::string_view key : {"pointDescription", "pointLongDescription"})
         didChange(key);
+}
+
+std::string KTLinkablePoint::featureName() const {
+    const char* const text = kTexts[type].featureName;
+    return text == nullptr ? std::string() : KTLocalizedString(text);
 }
 
 std::string KTLinkablePoint::featureDescription() const {

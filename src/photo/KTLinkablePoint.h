@@ -19,9 +19,10 @@ enum KTLinkablePointType : unsigned {
 /// A candidate location for a photo, with texts that describe it relative to the photo and the place names of
 /// its position, which are asked of the shared gazetteer when they are first read.
 ///
-/// The place names and the texts that follow from distances are observable by key. Position, type and
-/// distances are set by the thread that makes the point, before it hands the point over; everything else may
-/// be used on any thread. Texts that do not exist are empty.
+/// The place names and the texts that follow from distances are observable by key; answers are announced on
+/// the gazetteer's thread, where an observer must not wait for a place. Position, type and distances are set
+/// by the thread that makes the point, before it hands the point over; everything else may be used on any
+/// thread. Texts that do not exist are empty.
 class KTLinkablePoint final : public KTObservable,
                               public KTSpatialObject,
                               public std::enable_shared_from_this<KTLinkablePoint> {
@@ -63,8 +64,8 @@ public:
     /// The same with the photo's name.
     std::string pointLongDescription() const;
     /// Metres from an interpolated point to the track points before and after it.
-    double precedingDistance() const { return metresToPreceding; }
-    double nextDistance() const { return metresToNext; }
+    double precedingDistance() const;
+    double nextDistance() const;
     void setPrecedingDistance(double metres);
     void setNextDistance(double metres);
     /// Describes an interpolated point by its distances, in the user's units; no effect on other points.
@@ -84,15 +85,19 @@ public:
     /// Asks the gazetteer, once. A point without a position knows at once that it has no place names.
     void fetchLocationDescription();
     /// As above, and waits for the answer, kWaitLimit at most; a later answer is still taken. The main thread
-    /// serves the calls of other threads meanwhile.
-    void waitUntilLocationDescriptionFetchIsCompleted();
+    /// serves the calls of other threads meanwhile. Returns the answer, with "error" in place of names where
+    /// there is none.
+    KTValue::Dictionary waitUntilLocationDescriptionFetchIsCompleted();
+    /// The answer, nothing while it is not there.
+    std::optional<KTValue::Dictionary> answerIfCompleted() const;
     /// Ends the waits for the answer.
     void stopWaiting();
     /// Forgets the answer and, if it had been asked for, asks again.
     void clearLocationDictionaryCacheAndRefetch();
 
     // On the map
-    std::string featureName() const override { return title; }
+    /// "Preceding point" and the like; empty for a map point, which no map shows as a feature.
+    std::string featureName() const override;
     std::string featureDescription() const override;
     std::string kind() const override;
     std::vector<std::string> propertiesByName() const override { return {"name", "kind"}; }
@@ -106,8 +111,9 @@ private:
     KTLinkablePoint() = default;
     void copyGeoPoint(const KTGeoPoint& point);
     void describeRelativeToPhoto();
-    void setDescriptions(std::string description, std::string longDescription);
+    void setDistance(double& distance, double metres);
     std::string placeText(std::string_view key, const char* placeholder);
+    void changePlace(const std::function<std::shared_ptr<KTLatch>()>& change);
     /// The answer to the request of that number; one to an earlier request is dropped.
     void setRequestedLocationDictionary(const KTValue::Dictionary& answer, unsigned request);
 
@@ -116,11 +122,11 @@ private:
     std::optional<KTDecimal> degreesNorth, degreesEast, metresHigh;
     std::shared_ptr<KTPhoto> madeFor;
     std::string nameOfPhoto, title;
-    double metresToPreceding = 0, metresToNext = 0;
     Observation units, reverseGeocoder;
     std::atomic<KTSpatialObjectController*> owner = nullptr;
 
     mutable std::mutex mutex; // guards what follows; never held while announcing, asking or waiting
+    double metresToPreceding = 0, metresToNext = 0;
     std::string shortText, longText;
     KTValue::Dictionary place;
     bool isRequested = false, isCompleted = false;

@@ -16,16 +16,19 @@ std::string textOf(const KTValue::Dictionary& answer, std::string_view key) {
     return text ? *text : std::string();
 }
 
-std::string noAnswerText() {
-    return KTStringWithFormat(KTLocalizedString("%@ did not answer in time."),
+/// @p format filled with the name of the reverse geocoder.
+std::string placeholderText(const char* format) {
+    return KTStringWithFormat(KTLocalizedString(format),
                               {KTGazetteer::sharedGazetteer().selectedReverseGeocoder()->name()});
 }
 
 } // namespace
 
 std::string KTLinkablePoint::locationDescription() {
-    const std::string waiting = placeText({}, "Fetching the location description from %@…");
-    return waiting.empty() ? KTGazetteer::locationDescriptionFromDictionary(locationDictionary()) : waiting;
+    fetchLocationDescription();
+    const auto answer = answerIfCompleted();
+    return answer ? KTGazetteer::locationDescriptionFromDictionary(*answer)
+                  : placeholderText("Fetching the location description from %@…");
 }
 
 std::string KTLinkablePoint::city() {
@@ -42,13 +45,13 @@ std::string KTLinkablePoint::country() {
 
 std::string KTLinkablePoint::placeText(std::string_view key, const char* placeholder) {
     fetchLocationDescription();
-    {
-        std::lock_guard guard(mutex);
-        if (isCompleted)
-            return textOf(place, key);
-    }
-    return KTStringWithFormat(KTLocalizedString(placeholder),
-                              {KTGazetteer::sharedGazetteer().selectedReverseGeocoder()->name()});
+    const auto answer = answerIfCompleted();
+    return answer ? textOf(*answer, key) : placeholderText(placeholder);
+}
+
+std::optional<KTValue::Dictionary> KTLinkablePoint::answerIfCompleted() const {
+    std::lock_guard guard(mutex);
+    return isCompleted ? std::optional(place) : std::nullopt;
 }
 
 KTValue::Dictionary KTLinkablePoint::locationDictionary() const {
@@ -94,16 +97,23 @@ void KTLinkablePoint::fetchLocationDescription() {
 }
 
 void KTLinkablePoint::setRequestedLocationDictionary(const KTValue::Dictionary& answer, unsigned request) {
+    changePlace([&] {
+        if (request != requests) // the answer comes from a reverse geocoder that is no longer wanted
+            return std::shared_ptr<KTLatch>();
+        place = answer;
+        isCompleted = true;
+        return completion;
+    });
+}
+
+/// @p change runs under the lock and returns the latch of those who need not wait any more, null for none.
+void KTLinkablePoint::changePlace(const std::function<std::shared_ptr<KTLatch>()>& change) {
     for (std::string_view key : kPlaceKeys)
         willChange(key);
     std::shared_ptr<KTLatch> answered;
     {
         std::lock_guard guard(mutex);
-        if (request == requests) { // else the answer comes from a reverse geocoder that is no longer wanted
-            place = answer;
-            isCompleted = true;
-            answered = completion;
-        }
+        answered = change();
     }
     if (answered)
         answered->signal();
@@ -111,53 +121,45 @@ void KTLinkablePoint::setRequestedLocationDictionary(const KTValue::Dictionary& 
         didChange(key);
 }
 
-void KTLinkablePoint::waitUntilLocationDescriptionFetchIsCompleted() {
+KTValue::Dictionary KTLinkablePoint::waitUntilLocationDescriptionFetchIsCompleted() {
     const auto deadline = std::chrono::steady_clock::now() + kWaitLimit;
-    for (fetchLocationDescription(); !requestCompleted(); fetchLocationDescription()) {
+    for (;;) {
+        fetchLocationDescription();
         std::shared_ptr<KTLatch> answered;
         {
             std::lock_guard guard(mutex);
+            if (isCompleted)
+                return place;
             answered = completion;
         }
         const auto left = deadline - std::chrono::steady_clock::now();
-        if (answered->waitFor(std::chrono::ceil<std::chrono::milliseconds>(left)))
-            continue; // answered, or asked anew
-        KTGazetteer::sharedGazetteer().answerDidNotCome();
-        return stopWaiting();
+        if (!answered->waitFor(std::chrono::ceil<std::chrono::milliseconds>(left)))
+            stopWaiting();
     }
 }
 
 void KTLinkablePoint::stopWaiting() {
-    const std::string reason = noAnswerText();
-    std::shared_ptr<KTLatch> given;
-    {
-        std::lock_guard guard(mutex);
+    const std::string reason = placeholderText("%@ did not answer in time.");
+    changePlace([&] {
         if (isCompleted || !isRequested)
-            return;
+            return std::shared_ptr<KTLatch>();
         isCompleted = true;
         place = {{"error", reason}};
-        given = completion;
-    }
-    given->signal();
+        return completion;
+    });
 }
 
 void KTLinkablePoint::clearLocationDictionaryCacheAndRefetch() {
-    bool wasRequested = false;
+    if (!requestMade())
+        return;
     std::shared_ptr<KTLatch> former;
-    for (std::string_view key : kPlaceKeys)
-        willChange(key);
-    {
-        std::lock_guard guard(mutex);
-        wasRequested = std::exchange(isRequested, false);
-        isCompleted = false;
+    changePlace([&] {
+        isRequested = isCompleted = false;
         place.clear();
         ++requests; // the answer to the former request is not wanted any more
         former = completion;
-    }
-    for (std::string_view key : kPlaceKeys)
-        didChange(key);
-    if (wasRequested)
-        fetchLocationDescription();
-    if (former)
-        former->signal(); // those who wait for it now wait for the new one
+        return std::shared_ptr<KTLatch>();
+    });
+    fetchLocationDescription();
+    former->signal(); // those who wait for it now wait for the new one
 }

@@ -97,8 +97,9 @@ public:
     // queue, as setValuesForKeysWithDictionary does. A point without a position changes nothing.
     //
     // Where place names are to be written they are waited for. The main thread never waits: there the edit is
-    // made later, from its event loop, as soon as they are known, in the order of the calls. Why there are
-    // none is a warning in the log.
+    // made later, from its event loop, as soon as they are known, in the order of the calls, unless the
+    // photo's location or capture date was edited meanwhile. Why there are no names, or no edit, is a warning
+    // in the log.
     /// "Geotag Photos": the place where the picture was taken, with position, datum, GPS version, altitude
     /// where the point has an elevation, GPS time (cleared unless the point is a track point of a date), and
     /// the names of the place, for the place shown as well.
@@ -113,6 +114,10 @@ public:
     /// of @p point if any is; the main thread takes what is known.
     KTValue::Dictionary locationCreatedDictionaryFromLinkablePoint(KTLinkablePoint& point) const;
     KTValue::Dictionary locationShownDictionaryFromLinkablePoint(KTLinkablePoint& point) const;
+    /// Whether geotagging would write any place name.
+    bool geotaggingWantsPlaceNames() const;
+    /// Whether an edit waits for place names. Main thread.
+    bool isWaitingForPlaceNames() const { return locationEditsPutOff != 0; }
 
     // Capture dates. The instant is the components' reading in their zone, nothing without date, calendar or
     // zone. The shift is in seconds, counted from the date saved in the file. Each setter but that of the
@@ -276,15 +281,22 @@ private:
     // Geotagging (KTPhotoLocation.cpp)
     struct PlaceName;
     struct PlaceNames;
+    struct LocationEdit;
+    struct LocationEditPutOff;
     using Names = std::vector<const PlaceName*>;
     using Places = std::vector<const PlaceNames*>;
     static const PlaceNames kPlaceCreated, kPlaceShown;
-    void editLocation(const std::shared_ptr<KTLinkablePoint>& point, const KTValue::Dictionary& position,
-                      Places places, const char* actionName);
-    void applyLocation(KTLinkablePoint& point, KTValue::Dictionary edit, const Places& places,
-                       const char* actionName);
+    static const LocationEdit kLocationCreated, kLocationShown, kNamesCreated, kNamesShown;
+    void editLocation(const std::shared_ptr<KTLinkablePoint>& point, const LocationEdit& edit);
+    void putOffLocation(const std::shared_ptr<KTLinkablePoint>& point, const LocationEdit& edit);
+    void applyLocation(const KTLinkablePoint& point, const LocationEdit& edit,
+                       const KTValue::Dictionary& answer);
+    KTValue::Dictionary positionCreatedFrom(const KTLinkablePoint& point) const;
+    KTValue::Dictionary positionShownFrom(const KTLinkablePoint& point) const;
+    KTValue::Dictionary namesFrom(KTLinkablePoint& point, const PlaceNames& place) const;
+    Places placesToName(const LocationEdit& edit) const;
     Names wantedNames(const PlaceNames& place) const;
-    KTValue::Dictionary placeNames(const PlaceNames& place, KTLinkablePoint& point) const;
+    KTValue::Dictionary namesToWrite(const PlaceNames& place, const KTValue::Dictionary& answer) const;
 
     // Dates (KTPhotoDates.cpp)
     void changeDates(KTPhotoDateFamily::Which which, std::initializer_list<std::string_view> keys,

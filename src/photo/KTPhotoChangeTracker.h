@@ -6,8 +6,9 @@
 /// of its photos; a photo that is edited without a collection needs one of its own.
 class KTPhotoChangeTracker {
 public:
-    /// @p photo must outlive the tracker.
-    explicit KTPhotoChangeTracker(KTPhoto& photo);
+    /// @p photo must outlive the tracker. @p afterwards, if any, is told of every change of the photo, before
+    /// and after, once it is recorded.
+    explicit KTPhotoChangeTracker(KTPhoto& photo, KTObservable::Handler afterwards = {});
     ~KTPhotoChangeTracker();
     KTPhotoChangeTracker(const KTPhotoChangeTracker&) = delete;
     KTPhotoChangeTracker& operator=(const KTPhotoChangeTracker&) = delete;

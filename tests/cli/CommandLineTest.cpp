@@ -90,6 +90,15 @@ TEST_F(CommandLine, GeotagJudgesReportsAndCarriesOn) {
     Result wide = run(geotagDemo({"--no-time", "--dry-run"}));
     EXPECT_TRUE(outcomes(wide.json()).contains("IMG_0108.jpg geotagged next") ||
                 outcomes(wide.json()).contains("IMG_0112.jpg geotagged preceding"));
+    auto cityOf = [](const Result& result) {
+        return result.json()["photos"].toArray()[0].toObject()["city"].toString();
+    };
+    EXPECT_EQ(cityOf(dry), "Luzern");
+    EXPECT_EQ(tagsOf(folder / "trip/photos/IMG_0101.jpg").valueForKey("XMP:Country"), KTValue("Switzerland"));
+    EXPECT_EQ(cityOf(run(geotagDemo({"--overwrite", "--no-place", "--dry-run"}))), "");
+    Result noServer = run(QStringList{"--set", "reverseGeocoder=server"} + geotagDemo({"--overwrite"}));
+    EXPECT_EQ(noServer.status, 0) << "the position is written all the same";
+    EXPECT_NE(noServer.errors.find("No server is set"), std::string::npos) << noServer.errors;
     Result otherZone = run(geotagDemo({"--time-zone", "Z", "--dry-run", "--overwrite"}));
     EXPECT_EQ(otherZone.status, 2) << "the zone is given twice";
 }
@@ -118,6 +127,16 @@ TEST_F(CommandLine, ReadsAndSetsPhotos) {
     EXPECT_FALSE(tagsOf(folder / "a.jpg").find("XMP:Title"));
     Result text = run({"read", "a.jpg"});
     EXPECT_NE(text.output.find("Rating: 3"), std::string::npos) << text.output;
+}
+
+TEST_F(CommandLine, NamesPlaces) {
+    const QJsonObject basel = run({"--json", "place", "47.5581", "7.5878"}).json().toObject();
+    EXPECT_EQ(basel["description"].toString(), "Basel, Basel-City, Switzerland");
+    EXPECT_EQ(basel["countryCode"].toString(), "CH");
+    EXPECT_EQ(run({"place", "--", "-54.8019", "-68.303"}).output, "Ushuaia, Tierra del Fuego, Argentina\n");
+    EXPECT_TRUE(run({"--json", "place", "30", "--", "-40"}).json().toObject().isEmpty()) << "the open sea";
+    EXPECT_EQ(run({"place", "91", "0"}).status, 2);
+    EXPECT_EQ(run({"--set", "reverseGeocoder=server", "place", "47", "7"}).status, 1);
 }
 
 TEST_F(CommandLine, SavesAsTheOptionsSay) {

@@ -43,8 +43,9 @@ std::string nameInLanguage(const std::string& isoCode, const std::string& langua
 std::string KTCountryName(std::string_view isoCode) {
     if (!isCountryCode(isoCode))
         return {};
+    using Names = std::map<std::pair<QString, std::string>, std::string>;
     static std::mutex mutex;
-    static std::map<std::pair<QString, std::string>, std::string> known;
+    static Names& known = *new Names; // threads may ask until the last moment
     const QLocale user;
     const QString language = user.language() == QLocale::C ? QStringLiteral("en") : user.bcp47Name();
 

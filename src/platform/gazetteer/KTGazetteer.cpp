@@ -27,6 +27,7 @@ void KTGazetteer::close() {
         std::lock_guard guard(mutex);
         isClosed = true;
         unanswered.swap(questions);
+        asking.request_stop();
     }
     if (worker.joinable()) {
         worker.request_stop();
@@ -48,6 +49,7 @@ void KTGazetteer::setSelectedReverseGeocoder(std::shared_ptr<KTReverseGeocoder> 
         std::lock_guard guard(mutex);
         selected.swap(reverseGeocoder);
         isSkipping = false;
+        asking.request_stop();
     }
     didChange(KTGazetteerDefaultReverseGeocoderDidChange);
 }
@@ -81,28 +83,38 @@ void KTGazetteer::answerQuestions(const std::stop_token& stop) {
     while (changed.wait(lock, stop, [this] { return !questions.empty(); }) && !stop.stop_requested()) {
         Question question = std::move(questions.front());
         questions.pop_front();
-        const auto asked = isSkipping ? nullptr : selected;
-        const KTValue::Dictionary reason = asked ? KTValue::Dictionary() : notAskedAgain();
+        const auto asked = selected;
+        std::optional<KTValue::Dictionary> answer;
+        if (isSkipping)
+            answer = notAskedAgain();
+        asking = std::stop_source();
+        const std::stop_token stopAsking = asking.get_token();
         lock.unlock();
-        question.didFinish(asked ? ask(*asked, question, stop) : reason);
+        if (!answer)
+            answer = ask(*asked, question, stopAsking);
+        if (answer)
+            question.didFinish(*answer);
+        else
+            putAgain(std::move(question));
         question.didFinish = nullptr; // what it holds must not go while the lock is held
         lock.lock();
     }
 }
 
-KTValue::Dictionary KTGazetteer::ask(KTReverseGeocoder& reverseGeocoder, const Question& question,
-                                     const std::stop_token& stop) {
+/// Nothing when another reverse geocoder was selected meanwhile.
+std::optional<KTValue::Dictionary> KTGazetteer::ask(KTReverseGeocoder& reverseGeocoder,
+                                                    const Question& question, const std::stop_token& stop) {
     const KTPlaceAnswer answer = reverseGeocoder.placeAtLatitude(question.latitude, question.longitude, stop);
-    if (answer.isUnavailable) {
-        std::lock_guard guard(mutex);
-        isSkipping = isSkipping || (batches > 0 && selected.get() == &reverseGeocoder);
-    }
+    std::lock_guard guard(mutex);
+    if (selected.get() != &reverseGeocoder && !isClosed)
+        return std::nullopt;
+    isSkipping = isSkipping || (answer.isUnavailable && batches > 0);
     return answer.error ? KTValue::Dictionary{{"error", *answer.error}} : answer.place;
 }
 
-void KTGazetteer::answerDidNotCome() {
+void KTGazetteer::putAgain(Question question) {
     std::lock_guard guard(mutex);
-    isSkipping = batches > 0;
+    questions.push_front(std::move(question));
 }
 
 std::string KTGazetteer::locationDescriptionFromDictionary(const KTValue::Dictionary& answer) {

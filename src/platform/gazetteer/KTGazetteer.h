@@ -32,7 +32,7 @@ public:
     };
 
     /// The gazetteer of the process, whose reverse geocoder follows the settings "reverseGeocoder" and
-    /// "reverseGeocoderServer".
+    /// "reverseGeocoderServer". Is never destroyed; closes at the end of the program, if not before.
     static KTGazetteer& sharedGazetteer();
     explicit KTGazetteer(std::shared_ptr<KTReverseGeocoder> reverseGeocoder);
     ~KTGazetteer() override;
@@ -41,7 +41,7 @@ public:
     void close();
 
     std::shared_ptr<KTReverseGeocoder> selectedReverseGeocoder() const;
-    /// Questions that wait are put to the new one.
+    /// The question being asked of the former one is given up; it and those that wait are put to the new one.
     void setSelectedReverseGeocoder(std::shared_ptr<KTReverseGeocoder> reverseGeocoder);
 
     /// Asks for the place at a position in degrees. @p didFinish is called exactly once, on the gazetteer's
@@ -50,8 +50,6 @@ public:
     /// The place in one line, from the city to the country; the reason where there is no answer; empty where
     /// nothing is known.
     static std::string locationDescriptionFromDictionary(const KTValue::Dictionary& answer);
-    /// Tells that a question of this batch was given up because its answer did not come.
-    void answerDidNotCome();
 
 private:
     struct Question {
@@ -60,14 +58,16 @@ private:
     };
 
     void answerQuestions(const std::stop_token& stop);
-    KTValue::Dictionary ask(KTReverseGeocoder& reverseGeocoder, const Question& question,
-                            const std::stop_token& stop);
+    std::optional<KTValue::Dictionary> ask(KTReverseGeocoder& reverseGeocoder, const Question& question,
+                                           const std::stop_token& stop);
+    void putAgain(Question question);
     KTValue::Dictionary notAskedAgain() const; // the mutex must be held
 
     mutable std::mutex mutex; // guards what follows; never held while asking, answering or announcing
     std::condition_variable_any changed;
     std::shared_ptr<KTReverseGeocoder> selected;
     std::deque<Question> questions;
+    std::stop_source asking; // of the question being asked
     int batches = 0;
     bool isSkipping = false; // to the end of the batches
     bool isClosed = false;

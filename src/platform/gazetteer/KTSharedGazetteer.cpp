@@ -13,7 +13,9 @@ public:
           observation(KTUserDefaults::standardUserDefaults().observe([this](const KTChange& change) {
               if (!change.isPrior && change.key.starts_with("reverseGeocoder"))
                   follow();
-          })) {}
+          })) {
+        follow(); // what was set meanwhile
+    }
 
     KTGazetteer& get() { return gazetteer; }
 
@@ -36,20 +38,38 @@ private:
         return offline;
     }
 
+    /// One thread selects at a time, and looks at the settings again after each selection: what they say last
+    /// holds, above all "offline".
     void follow() {
-        const Choice wanted = choiceOfSettings();
         {
             std::lock_guard guard(mutex);
-            if (std::exchange(choice, wanted) == wanted)
+            mustLookAgain = true;
+            if (std::exchange(isSelecting, true))
                 return;
         }
-        gazetteer.setSelectedReverseGeocoder(reverseGeocoderFor(wanted));
+        while (mustSelect())
+            gazetteer.setSelectedReverseGeocoder(reverseGeocoderFor(choice));
+    }
+
+    bool mustSelect() {
+        for (;;) {
+            {
+                std::lock_guard guard(mutex);
+                if (!std::exchange(mustLookAgain, false))
+                    return isSelecting = false;
+            }
+            if (Choice wanted = choiceOfSettings(); wanted != choice) {
+                choice = std::move(wanted);
+                return true;
+            }
+        }
     }
 
     const std::shared_ptr<KTReverseGeocoder> offline =
         std::make_shared<KTOfflineReverseGeocoder>(); // kept, with its data, while another one is used
-    std::mutex mutex;
-    Choice choice; // guarded by the mutex
+    std::mutex mutex;                                 // guards the two flags
+    bool isSelecting = false, mustLookAgain = false;
+    Choice choice; // of the thread that selects
     KTGazetteer gazetteer;
     KTObservable::Observation observation;
 };
@@ -57,6 +77,10 @@ private:
 } // namespace
 
 KTGazetteer& KTGazetteer::sharedGazetteer() {
-    static FollowingGazetteer shared;
-    return shared.get();
+    // Used by threads until the last of them is gone, so it stays; but its own must end.
+    static FollowingGazetteer* const shared = new FollowingGazetteer;
+    static const struct Closing {
+        ~Closing() { shared->get().close(); }
+    } closing;
+    return shared->get();
 }

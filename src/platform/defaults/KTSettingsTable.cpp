@@ -77,7 +77,7 @@ constexpr KTSetting kSettings[] = {
     {"applicationShouldAlwaysUsePhotosTimeZoneDefault", Boolean, "true"},
     {"shouldUseComputerTimeZoneForAssumedTimeZoneDefault", Boolean, "true"},
     {"defaultTimeZoneOptionsSelectedIndex", Unsigned, "0"},
-    {"assumedTimeZoneDefaultOffset", Integer},
+    {"assumedTimeZoneDefaultOffset", Text},
 
     // Photo library and slide show
     {"defaultShouldInterpretLastKeywordAsEvent", Boolean, "true"},

@@ -31,6 +31,7 @@ public:
         Observation& operator=(Observation&& other);
         ~Observation() { stop(); }
         void stop();
+        bool isObserving() const { return !list.expired(); }
 
     private:
         friend class KTObservable;

@@ -4,7 +4,12 @@
 #include "platform/common/KTText.h"
 #include "platform/tracklibrary/TrackFileReading.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
+
+constexpr std::chrono::hours kNear(24);
 
 /// Why @p file cannot be a track file; empty when it may be one.
 std::string unreadableReason(const std::filesystem::path& file) {
@@ -48,6 +53,34 @@ KTTrackStore::Deletion KTTrackManager::deleteTracks(const std::vector<std::int64
     if (!result.deleted.empty())
         post({KTTrackManagerDidDeleteObjects, result.deleted});
     return result;
+}
+
+KTNearbyPredicates KTTrackManager::nearbyPredicatesForDates(std::vector<KTInstant> dates) const {
+    std::ranges::sort(dates);
+    KTTrackPredicate near;
+    for (KTInstant date : dates) {
+        if (near.spans.empty() || near.spans.back().last < date - kNear)
+            near.spans.push_back({date - kNear, date + kNear});
+        else
+            near.spans.back().last = date + kNear;
+    }
+    return {near, near};
+}
+
+std::vector<KTTrack> KTTrackManager::tracksForPredicate(const KTTrackPredicate& predicate) const {
+    std::vector<KTTrack> found = trackStore->tracks();
+    std::erase_if(found, [&](const KTTrack& track) {
+        return track.kind != KTTrack::Kind::Track || !track.firstDate || !track.lastDate ||
+               !predicate.matches(*track.firstDate, *track.lastDate);
+    });
+    return found;
+}
+
+std::vector<KTWaypoint> KTTrackManager::waypointsForPredicate(const KTTrackPredicate& predicate) const {
+    std::vector<KTWaypoint> found;
+    for (const KTTrackPredicate::Span& span : predicate.spans)
+        std::ranges::move(trackStore->waypointsBetween(span.first, span.last), std::back_inserter(found));
+    return found;
 }
 
 int KTTrackManager::addHandler(Handler handler) {

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/tracklibrary/KTTrackPredicate.h"
 #include "platform/tracklibrary/KTTrackStore.h"
 
 inline constexpr std::string_view KTTrackManagerDidAddNewImportSource = "KTTrackManagerDidAddNewImportSource";
@@ -25,6 +26,15 @@ public:
     KTTrackImportResult importFile(const std::filesystem::path& file);
     /// As KTTrackStore::deleteTracks.
     KTTrackStore::Deletion deleteTracks(const std::vector<std::int64_t>& ids);
+
+    /// What was recorded at most a day before or after one of @p dates, which may come in any order. A day,
+    /// because a camera's clock may be set to any zone of the world.
+    KTNearbyPredicates nearbyPredicatesForDates(std::vector<KTInstant> dates) const;
+    /// The tracks with dated points, in the order of their import, of which a part may lie in one of the
+    /// predicate's spans: their time from the first to the last point is looked at.
+    std::vector<KTTrack> tracksForPredicate(const KTTrackPredicate& predicate) const;
+    /// The waypoints that are dated so, in the order of their dates; undated ones are near nothing.
+    std::vector<KTWaypoint> waypointsForPredicate(const KTTrackPredicate& predicate) const;
 
     /// Called on the thread that imported or deleted, after the change is committed and outside every lock,
     /// in the order of registration.

@@ -142,6 +142,11 @@ std::vector<KTWaypoint> KTTrackStore::waypoints(std::int64_t track) const {
                              [&](TrackDatabase& database) { return waypointsOfTrack(database, track); });
 }
 
+std::vector<KTWaypoint> KTTrackStore::waypointsBetween(KTInstant first, KTInstant last) const {
+    return connections->read("waypointsBetween", std::vector<KTWaypoint>(),
+                             [&](TrackDatabase& database) { return waypointsOfTime(database, first, last); });
+}
+
 std::vector<std::vector<KTGeoPoint>> KTTrackStore::segments(std::int64_t track) const {
     return connections->read("segments", std::vector<std::vector<KTGeoPoint>>(),
                              [&](TrackDatabase& database) { return segmentsOfTrack(database, track); });

@@ -41,6 +41,9 @@ public:
     std::vector<KTTrack> tracks() const;
     /// The waypoints of one listed entry, in the order of the file; empty after a logged error.
     std::vector<KTWaypoint> waypoints(std::int64_t track) const;
+    /// The waypoints dated from @p first to @p last, both included, in the order of their dates; empty after
+    /// a logged error.
+    std::vector<KTWaypoint> waypointsBetween(KTInstant first, KTInstant last) const;
     /// The points of one listed entry, in the order of the file; empty after a logged error.
     std::vector<std::vector<KTGeoPoint>> segments(std::int64_t track) const;
 

@@ -28,6 +28,15 @@ void forEachPoint(TrackDatabase& database, PointRange range, const Visit& visit)
         visit(geoPointFromRow(*find, 0));
 }
 
+std::vector<KTWaypoint> waypointsFromRows(SQLite::Statement& rows) {
+    std::vector<KTWaypoint> waypoints;
+    while (rows.executeStep())
+        waypoints.push_back({rows.getColumn(0).getInt64(), rows.getColumn(1).getInt64(),
+                             rows.getColumn(2).getString(), rows.getColumn(3).getString(),
+                             geoPointFromRow(rows, 4)});
+    return waypoints;
+}
+
 void writeTrack(TrackDatabase& database, const KTTrack& track, GPXWriter& writer) {
     writer.beginTrack(track);
     for (PointRange range : segmentRanges(database, track.id)) {
@@ -63,15 +72,18 @@ std::vector<KTTrack> listTracks(TrackDatabase& database) {
 }
 
 std::vector<KTWaypoint> waypointsOfTrack(TrackDatabase& database, std::int64_t track) {
-    auto find =
-        database.statement("SELECT id, name, comment, date, latitude, longitude, elevation FROM waypoint "
-                           "WHERE track = ? ORDER BY id");
+    auto find = database.statement("SELECT id, track, name, comment, date, latitude, longitude, elevation "
+                                   "FROM waypoint WHERE track = ? ORDER BY id");
     find->bind(1, track);
-    std::vector<KTWaypoint> waypoints;
-    while (find->executeStep())
-        waypoints.push_back({find->getColumn(0).getInt64(), track, find->getColumn(1).getString(),
-                             find->getColumn(2).getString(), geoPointFromRow(*find, 3)});
-    return waypoints;
+    return waypointsFromRows(*find);
+}
+
+std::vector<KTWaypoint> waypointsOfTime(TrackDatabase& database, KTInstant first, KTInstant last) {
+    auto find = database.statement("SELECT id, track, name, comment, date, latitude, longitude, elevation "
+                                   "FROM waypoint WHERE date BETWEEN ? AND ? ORDER BY date, id");
+    find->bind(1, static_cast<std::int64_t>(first.time_since_epoch().count()));
+    find->bind(2, static_cast<std::int64_t>(last.time_since_epoch().count()));
+    return waypointsFromRows(*find);
 }
 
 std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, std::int64_t track) {

@@ -10,6 +10,7 @@ class TrackDatabase;
 
 std::vector<KTTrack> listTracks(TrackDatabase& database);
 std::vector<KTWaypoint> waypointsOfTrack(TrackDatabase& database, std::int64_t track);
+std::vector<KTWaypoint> waypointsOfTime(TrackDatabase& database, KTInstant first, KTInstant last);
 std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, std::int64_t track);
 /// Writes the entries @p ids, each of them once, as one GPX 1.1 file. Returns the first id that is not in the
 /// library, with nothing written.

@@ -1,0 +1,160 @@
+#include "collection/KTArrangedPhotos.h"
+
+#include <algorithm>
+
+bool KTArrangedPhotos::contains(const KTPhoto* photo) const {
+    return present.contains(photo);
+}
+
+KTArrangedPhotos::Snapshot KTArrangedPhotos::photos() const {
+    if (!loadedCopy)
+        loadedCopy = std::make_shared<const Photos>(loaded);
+    return loadedCopy;
+}
+
+KTArrangedPhotos::Snapshot KTArrangedPhotos::arranged() const {
+    if (descriptors.empty())
+        return photos();
+    if (!arrangedCopy) {
+        Photos copy;
+        copy.reserve(order.size());
+        for (const Ranked& entry : order)
+            copy.push_back(entry.photo);
+        arrangedCopy = std::make_shared<const Photos>(std::move(copy));
+    }
+    return arrangedCopy;
+}
+
+KTArrangedPhotos::Snapshot KTArrangedPhotos::selected() const {
+    if (!selectedCopy) {
+        Photos copy;
+        if (!chosen.empty())
+            std::ranges::copy_if(*arranged(), std::back_inserter(copy),
+                                 [this](const Photo& photo) { return chosen.contains(photo.get()); });
+        selectedCopy = std::make_shared<const Photos>(std::move(copy));
+    }
+    return selectedCopy;
+}
+
+void KTArrangedPhotos::forgetSnapshots() {
+    loadedCopy = arrangedCopy = selectedCopy = nullptr;
+}
+
+KTArrangedPhotos::Ranked KTArrangedPhotos::ranked(const Photo& photo) const {
+    Ranked entry{photo, {}};
+    for (const KTSortDescriptor& descriptor : descriptors)
+        entry.ranks.push_back(photo->valueForKey(descriptor.key));
+    return entry;
+}
+
+bool KTArrangedPhotos::comesBefore(const Ranked& left, const Ranked& right) const {
+    for (std::size_t i = 0; i < descriptors.size(); ++i)
+        if (const int sign = KTCompareForSorting(left.ranks[i], right.ranks[i]); sign != 0)
+            return (sign < 0) == descriptors[i].isAscending;
+    return false;
+}
+
+void KTArrangedPhotos::insert(const Photo& photo, std::size_t index) {
+    loaded.insert(loaded.begin() + static_cast<std::ptrdiff_t>(std::min(index, loaded.size())), photo);
+    present.insert(photo.get());
+    files.insert(photo->path());
+    if (!descriptors.empty()) {
+        Ranked entry = ranked(photo);
+        const auto place =
+            std::ranges::upper_bound(order, entry, [this](const Ranked& left, const Ranked& right) {
+                return comesBefore(left, right);
+            });
+        order.insert(place, std::move(entry));
+    }
+    forgetSnapshots();
+}
+
+void KTArrangedPhotos::remove(const Indexes& indexes) {
+    std::unordered_set<const KTPhoto*> leaving;
+    for (std::size_t index : indexes)
+        leaving.insert(loaded[index].get());
+    auto leaves = [&](const Photo& photo) { return leaving.contains(photo.get()); };
+    std::erase_if(order, [&](const Ranked& entry) { return leaves(entry.photo); });
+    for (const KTPhoto* photo : leaving) {
+        files.erase(files.find(photo->path()));
+        present.erase(photo);
+        chosen.erase(photo);
+    }
+    forgetSnapshots();
+    std::erase_if(loaded, leaves); // last: this may end the photos' lives
+}
+
+void KTArrangedPhotos::replace(std::size_t index, const Photo& withPhoto) {
+    remove({index});
+    insert(withPhoto, index);
+}
+
+KTArrangedPhotos::Indexes KTArrangedPhotos::indexesOf(const Photos& wanted) const {
+    std::unordered_set<const KTPhoto*> sought;
+    for (const Photo& photo : wanted)
+        if (contains(photo.get()))
+            sought.insert(photo.get());
+    Indexes indexes;
+    for (std::size_t i = 0; i < loaded.size() && indexes.size() < sought.size(); ++i)
+        if (sought.contains(loaded[i].get()))
+            indexes.push_back(i);
+    return indexes;
+}
+
+void KTArrangedPhotos::sort(std::vector<KTSortDescriptor> newDescriptors) {
+    descriptors = std::move(newDescriptors);
+    order.clear();
+    if (!descriptors.empty())
+        for (const Photo& photo : loaded)
+            order.push_back(ranked(photo));
+    std::ranges::stable_sort(
+        order, [this](const Ranked& left, const Ranked& right) { return comesBefore(left, right); });
+    forgetSnapshots();
+}
+
+void KTArrangedPhotos::arrange(Photos newOrder) {
+    loaded = std::move(newOrder);
+    sort({});
+}
+
+void KTArrangedPhotos::move(const Indexes& indexes, std::size_t toIndex) {
+    Photos block, before, after;
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < loaded.size(); ++i) {
+        const bool moves = next < indexes.size() && indexes[next] == i;
+        next += moves ? 1 : 0;
+        (moves ? block : i < toIndex ? before : after).push_back(loaded[i]);
+    }
+    before.insert(before.end(), block.begin(), block.end());
+    before.insert(before.end(), after.begin(), after.end());
+    loaded.swap(before);
+    sort(descriptors);
+}
+
+void KTArrangedPhotos::select(const Photos& wanted) {
+    chosen.clear();
+    for (const Photo& photo : wanted)
+        if (contains(photo.get()))
+            chosen.insert(photo.get());
+    selectedCopy = nullptr;
+}
+
+void KTArrangedPhotos::selectIndexes(const Indexes& arrangedIndexes) {
+    const Snapshot shown = arranged();
+    Photos wanted;
+    for (std::size_t index : arrangedIndexes)
+        if (index < shown->size())
+            wanted.push_back((*shown)[index]);
+    select(wanted);
+}
+
+KTArrangedPhotos::Indexes KTArrangedPhotos::selectedIndexes() const {
+    Indexes indexes;
+    if (chosen.empty())
+        return indexes;
+    const Snapshot shown = arranged();
+    for (std::size_t i = 0; i < shown->size(); ++i)
+        if (chosen.contains((*shown)[i].get()))
+            indexes.push_back(i);
+    return indexes;
+}

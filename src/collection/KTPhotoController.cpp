@@ -1,0 +1,42 @@
+#include "collection/KTPhotoController.h"
+
+#include <algorithm>
+
+void KTPhotoController::setup() {
+    managerObservation = manager.observe([this](const KTChange& change) { forward(change); });
+}
+
+void KTPhotoController::tearDown() {
+    managerObservation.stop();
+}
+
+void KTPhotoController::forward(const KTChange& change) {
+    auto announce = [&](std::string_view key, KTChange::Kind kind, const Indexes& indexes) {
+        change.isPrior ? willChange(key, kind, indexes) : didChange(key, kind, indexes);
+    };
+    const auto setting = KTChange::Kind::Setting;
+    if (change.key == "photos" && manager.photoSortDescriptors().empty())
+        announce("photos", change.kind, change.indexes);
+    else if (change.key == "photos" || change.key == "photoSortDescriptors")
+        announce("photos", setting, {});
+    else if (change.key == "selectedPhotoIndexes")
+        for (const char* key : {"selectedPhotoIndexes", "selectedPhotos"})
+            announce(key, setting, {});
+}
+
+KTPhotoController::Photos KTPhotoController::stillLoaded(const Photos& photos) const {
+    const Snapshot all = manager.photos();
+    std::unordered_set<const KTPhoto*> loaded;
+    for (const auto& photo : *all)
+        loaded.insert(photo.get());
+    Photos present;
+    std::ranges::copy_if(photos, std::back_inserter(present),
+                         [&](const auto& photo) { return loaded.contains(photo.get()); });
+    return present;
+}
+
+void KTPhotoController::setIsBatchGeotagRemovalInProgress(bool isInProgress) {
+    willChange("isBatchGeotagRemovalInProgress");
+    isRemovingGeotags = isInProgress;
+    didChange("isBatchGeotagRemovalInProgress");
+}

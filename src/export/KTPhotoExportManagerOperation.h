@@ -1,0 +1,75 @@
+#pragma once
+#include "export/KTExportedPhotoCopy.h"
+#include "export/KTGuardedExportPlugin.h"
+#include "export/waymark/KTPhotoExportManager.h"
+#include "platform/concurrency/KTOperation.h"
+#include "platform/tracklibrary/KTTrackManager.h"
+
+class KTPhotoExportPluginManager;
+
+/// One export: what may be exported, the plug-in that does it, and the host's services for that plug-in. Runs
+/// on the export queue or on the main thread.
+///
+/// Set up on the main thread before the plug-in is made, read on any thread afterwards; destroyed, with the
+/// plug-in, on the main thread. "tracks" and "waypoints" are announced. The writing of photos is not there
+/// yet.
+class KTPhotoExportManagerOperation final
+    : public KTOperation,
+      public KTPhotoExportManager,
+      public std::enable_shared_from_this<KTPhotoExportManagerOperation> {
+public:
+    using Photo = std::shared_ptr<const KTExportedPhotoCopy>;
+
+    static std::shared_ptr<KTPhotoExportManagerOperation> make();
+
+    /// Copies of all loaded photos, in the user's order, and those of them to export.
+    const std::vector<Photo>& allPhotos() const { return everyPhoto; }
+    void setPhotos(std::vector<Photo> all, const std::vector<std::size_t>& exportedIndexes);
+    /// Tracks and waypoints near the photos' dates. @p library outlives the operation.
+    void setTracks(std::vector<KTTrack> near, const KTTrackStore& library);
+    const std::vector<KTWaypoint>& waypoints() const { return nearbyWaypoints; }
+    void setWaypoints(std::vector<KTWaypoint> near);
+    void setMetadata(std::vector<KTExportedField> fields, std::vector<KTExportedFieldGroup> groups);
+    void setWindow(KTViewHandle handle) { mainWindow = handle; }
+    /// Receives what the plug-in asks for by the three calls at the end.
+    void setController(std::weak_ptr<KTPhotoExportPluginManager> receiver) {
+        controller = std::move(receiver);
+    }
+    void setPlugin(std::unique_ptr<KTGuardedExportPlugin> owned) { exportPlugin = std::move(owned); }
+    KTGuardedExportPlugin* plugin() const { return exportPlugin.get(); } ///< null before it is made
+
+    /// Lets the plug-in export, now and on this thread.
+    void main() override;
+
+    std::vector<KTExportedField> metadataFields() const override { return fieldList; }
+    std::vector<KTExportedFieldGroup> metadataGroups() const override { return groupList; }
+    std::vector<std::shared_ptr<const KTExportedPhoto>> photos() const override;
+    std::vector<std::shared_ptr<const KTExportedTrack>> tracks() const override { return nearbyTracks; }
+    KTViewHandle window() const override { return mainWindow; }
+    KTPhotoExportResult exportPhoto(const KTExportedPhoto& photo, const std::filesystem::path& toPath,
+                                    const KTPhotoExportOptions& withOptions) override;
+    std::vector<std::string> validExportFormats() const override { return {}; }
+    std::string fileExtensionForUTI(std::string_view uti) const override;
+    // Never wait: from another thread they are posted to the main thread.
+    void exportManagerShouldBeginExport() override;
+    void exportManagerShouldCancelExport() override;
+    void exportManagerShouldFinishExport() override;
+    KTPhotoExportManager* apiForProtocol(std::string_view) override { return this; }
+    bool conformsToProtocol(std::string_view, int) const override { return true; }
+
+private:
+    using Request =
+        void (KTPhotoExportPluginManager::*)(const std::shared_ptr<KTPhotoExportManagerOperation>& operation);
+
+    KTPhotoExportManagerOperation() = default;
+    void forward(Request request);
+
+    std::vector<KTExportedField> fieldList;
+    std::vector<KTExportedFieldGroup> groupList;
+    std::vector<Photo> everyPhoto, exportedPhotos;
+    std::vector<std::shared_ptr<const KTExportedTrack>> nearbyTracks;
+    std::vector<KTWaypoint> nearbyWaypoints;
+    KTViewHandle mainWindow = nullptr;
+    std::weak_ptr<KTPhotoExportPluginManager> controller;
+    std::unique_ptr<KTGuardedExportPlugin> exportPlugin; // last, so that it goes first
+};

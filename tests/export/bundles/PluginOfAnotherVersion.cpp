@@ -1,0 +1,15 @@
+#include <QtPlugin>
+
+#include <QObject>
+#include <cstdlib>
+
+/// A library for interfaces that this host does not have. Its code must not run.
+class PluginOfAnotherVersion : public QObject {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "waymark.PhotoExportPluginFactory/2")
+
+public:
+    PluginOfAnotherVersion() { std::abort(); }
+};
+
+#include "PluginOfAnotherVersion.moc"

@@ -55,7 +55,6 @@ void KTTagDetailsWindowController::setWindowVisible(bool visible) {
 
 /// A batch changes the selected photos one after the other; the rows are wanted once in a while only.
 void KTTagDetailsWindowController::updateBindings() {
-    madeRows.reset();
     if (std::exchange(isAnnouncementDue, true))
         return;
     KTPerformOnMainThread([weak = std::weak_ptr(self)] {
@@ -68,13 +67,7 @@ void KTTagDetailsWindowController::updateBindings() {
     });
 }
 
-const std::vector<KTTagDetailsWindowController::Row>& KTTagDetailsWindowController::rows() {
-    if (!madeRows)
-        madeRows = makeRows();
-    return *madeRows;
-}
-
-std::vector<KTTagDetailsWindowController::Row> KTTagDetailsWindowController::makeRows() const {
+std::vector<KTTagDetailsWindowController::Row> KTTagDetailsWindowController::rows() const {
     struct Tag {
         KTValue value;          // of the first photo that has it
         std::size_t photos = 0; // that have it with this value, of those seen up to the first that does not

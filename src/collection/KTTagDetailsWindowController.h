@@ -36,21 +36,18 @@ public:
     bool isWindowVisible() const { return isVisible; }
     void setWindowVisible(bool visible);
 
-    /// "rows": the tags of all selected photos by key, always those of now; "Multiple Values" where a tag
-    /// differs between photos or some lack it. Announced once for all changes of a turn of the event loop.
-    /// The reference holds until that.
-    const std::vector<Row>& rows();
-    /// Makes the rows anew.
+    /// "rows": the tags of all selected photos by key, as they are now; "Multiple Values" where a tag differs
+    /// between photos or some lack it. Made at each call, in 0.1 s for 10,000 photos. Announced once for all
+    /// changes of a turn of the event loop.
+    std::vector<Row> rows() const;
+    /// Announces that there are other rows.
     void updateBindings();
 
 private:
-    std::vector<Row> makeRows() const;
-
     KTPhotoManager& manager;
     const KTRawKeyFormatter valueFormatter;
     unsigned shownSource = 0, shownType = 0;
     bool isVisible = false;
-    std::optional<std::vector<Row>> madeRows; // until something changes
     bool isAnnouncementDue = false;
     std::unique_ptr<SelectedPhotoObserver> observer;
     const std::shared_ptr<KTTagDetailsWindowController*> self; // for what is posted

@@ -105,6 +105,14 @@ constexpr KTSetting kSettings[] = {
     {"distanceUnits", Text, {}, unitsOfLocale, "metric|imperial|nautical"},
     {"reverseGeocoder", Text, "offline", nullptr, "offline|server"},
     {"reverseGeocoderServer", Text, ""},
+    {"defaultMapDataSource", Text, ""},
+    {"defaultMapLatitude", Number, "20"},
+    {"defaultMapLongitude", Number, "0"},
+    {"defaultMapScale", Number, "0"},
+    {"previousMapDataSource", Text},
+    {"previousMapLatitude", Number},
+    {"previousMapLongitude", Number},
+    {"previousMapScale", Number},
 };
 // clang-format on
 

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPainter;
@@ -71,6 +72,9 @@ public:
 
     /// Whom the layer owes thanks, as plain text; empty for nobody.
     virtual std::string attribution() const { return {}; }
+
+    /// What does not work, in the user's language, for the map to say once; nothing when all is well.
+    virtual std::optional<std::string> problem() const { return std::nullopt; }
 
     /// Called, on the main thread, by the layer when its drawing has changed; set by the map that shows it.
     void setChangeHandler(std::function<void()> handler) { changeHandler = std::move(handler); }

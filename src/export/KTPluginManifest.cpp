@@ -29,7 +29,11 @@ std::variant<KTPluginManifest, KTPluginError> KTPluginManifest::ofBundle(const f
     const auto refused = [&](KTPluginError::Code code, std::string reason) {
         return KTPluginError{code, KTValidUTF8(bundle.string()), std::move(reason)};
     };
-    QFile file(QFile::decodeName(bundle.c_str()) + '/' + kManifest);
+    const fs::path path = bundle / kManifest;
+    QFile file(QFile::decodeName(path.c_str()));
+    std::error_code error;
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) // opening a pipe would wait for ever
+        return refused(KTPluginError::NoManifest, KTLocalizedString("Its manifest is not a file."));
     if (!file.open(QIODevice::ReadOnly))
         return refused(KTPluginError::NoManifest,
                        KTStringWithFormat(KTLocalizedString("Its manifest cannot be read: %@."),
@@ -48,7 +52,6 @@ std::variant<KTPluginManifest, KTPluginError> KTPluginManifest::ofBundle(const f
                               fileNamed(entries["library"], bundle)};
     if (uuid.isNull() || manifest.name.empty() || manifest.library.empty())
         return refused(KTPluginError::DamagedManifest, KTLocalizedString("Its manifest is damaged."));
-    std::error_code error;
     if (!fs::is_regular_file(manifest.library, error))
         return refused(KTPluginError::NoLibrary, KTLocalizedString("Its library is missing."));
     return manifest;

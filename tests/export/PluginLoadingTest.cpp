@@ -90,6 +90,10 @@ TEST_F(PluginLoadingTest, NamesWhatCannotBeUsedInTheLogAndGoesOn) {
         expected += (folder / path).string() + "\nThe plug-in cannot be used.\n" + one.reason +
                     " Code: " + std::to_string(one.code) + "\n";
     }
+    fs::create_directory(folder / "program/K.ktplugin");
+    ASSERT_EQ(mkfifo((folder / "program/K.ktplugin/manifest.json").c_str(), 0600), 0);
+    expected += (folder / "program/K.ktplugin").string() +
+                "\nThe plug-in cannot be used.\nIts manifest is not a file. Code: 1\n";
     bundle("program/Z.ktplugin", 1);
     EXPECT_EQ(loadAll(), expected);
     EXPECT_EQ(names(), "Z ");

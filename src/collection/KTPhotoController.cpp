@@ -25,13 +25,9 @@ void KTPhotoController::forward(const KTChange& change) {
 }
 
 KTPhotoController::Photos KTPhotoController::stillLoaded(const Photos& photos) const {
-    const Snapshot all = manager.photos();
-    std::unordered_set<const KTPhoto*> loaded;
-    for (const auto& photo : *all)
-        loaded.insert(photo.get());
     Photos present;
     std::ranges::copy_if(photos, std::back_inserter(present),
-                         [&](const auto& photo) { return loaded.contains(photo.get()); });
+                         [this](const auto& photo) { return manager.isLoaded(*photo); });
     return present;
 }
 

@@ -5,8 +5,6 @@
 #include "platform/common/KTText.h"
 #include "platform/gazetteer/KTGazetteer.h"
 
-#include <algorithm>
-
 struct KTPhotoController::Place {
     const char* latitudeKey;
     const char* longitudeKey;
@@ -53,7 +51,7 @@ void KTPhotoController::reverseGeocode(const Photos& photos, const Place& place)
         point->fetchLocationDescription();
         steps.push_back(std::make_shared<KTOperation>(
             [&collection = manager, photo, point, batch, writeNames = place.writeNames] {
-                if (std::ranges::find(*collection.photos(), photo) != collection.photos()->end())
+                if (collection.isLoaded(*photo))
                     (photo.get()->*writeNames)(point);
             }));
     }

@@ -165,6 +165,11 @@ bool KTPhotoManager::hasSelection() const {
     return list.hasSelection();
 }
 
+bool KTPhotoManager::isLoaded(const KTPhoto& photo) const {
+    std::lock_guard guard(mutex);
+    return list.contains(&photo);
+}
+
 bool KTPhotoManager::isLoaded(const std::filesystem::path& file) const {
     std::lock_guard guard(mutex);
     return list.containsFile(file);

@@ -42,6 +42,8 @@ public:
     Snapshot photos() const;
     /// How many there are; cheaper than a snapshot while they are many and come one by one.
     std::size_t numberOfPhotos() const;
+    /// Asked for one photo, or for each of many.
+    bool isLoaded(const KTPhoto& photo) const;
     void insertObject(const Photo& photo, std::size_t inPhotosAtIndex);
     void removeObjectFromPhotosAtIndex(std::size_t index);
     void replaceObjectInPhotosAtIndex(std::size_t index, const Photo& withObject);
@@ -96,6 +98,9 @@ public:
     void importPhotosAtPaths(std::vector<std::string> paths, ImportHandlers handlers = {});
     void importPhotosAtURLs(std::vector<std::filesystem::path> files, ImportHandlers handlers = {});
     void importPhotosFromPasteboard(KTPasteboard pasteboard, ImportHandlers handlers = {});
+    /// Whether an import gives each "crw" file without sidecar one on disk. Off, as commands that only look
+    /// want it; on in the application.
+    void setCreatesSidecarsOfRawFiles(bool creates) { createsSidecars = creates; }
     /// Cancels every import: listing stops, the photo being read is added, the rest is not read. The value is
     /// not used.
     void setShouldCancelImport(bool ignored = true);
@@ -181,6 +186,7 @@ private:
     KTBatchOperationController* batches = nullptr;
     std::size_t photosOfLibraries = 0;    // that take changes
     std::optional<ZoneChange> zoneChange; // under way
+    bool createsSidecars = false;
     bool isImporting = false;
     std::string importLine;
     std::size_t importCount = 0;

@@ -31,21 +31,22 @@ public:
     KTPhotoReadAhead::Result read(const KTImportRecord& record);
 
     ImportHandlers handlers;
-    std::vector<fs::path> filesToRead; ///< of the records without media object
+    std::vector<fs::path> filesToRead; ///< of the records that may be read ahead
 
 private:
     std::optional<KTPhotoReadAhead> readAhead; // begins with the first operation
 };
 
 KTPhotoReadAhead::Result KTPhotoManager::ImportRun::read(const KTImportRecord& record) {
-    if (!record.mediaObject && !record.photoURL.empty()) {
+    if (record.mayBeReadAhead()) {
         if (!readAhead)
             readAhead.emplace(std::move(filesToRead));
         return readAhead->next();
     }
     KTPhotoReadAhead::Result result;
-    result.photo = KTPhoto::initWithFile(record.photoURL, record.thumbnailURL, record.mediaObject,
-                                         {.log = &result.failure});
+    result.photo =
+        KTPhoto::initWithFile(record.photoURL, record.thumbnailURL, record.mediaObject,
+                              {.createsSidecarOfRawFile = record.createsSidecar, .log = &result.failure});
     return result;
 }
 
@@ -170,7 +171,9 @@ void KTPhotoManager::queueImport(const std::shared_ptr<ImportRun>& run, Records 
         return;
     std::vector<std::shared_ptr<KTOperation>> toRun;
     for (KTImportRecord& record : records) {
-        if (!record.mediaObject && !record.photoURL.empty())
+        record.createsSidecar =
+            createsSidecars && KTEqualIgnoringCase(record.photoURL.extension().native(), ".crw");
+        if (record.mayBeReadAhead())
             run->filesToRead.push_back(record.photoURL);
         toRun.push_back(
             std::make_shared<KTOperation>([weak = std::weak_ptr(self), run, record = std::move(record)] {

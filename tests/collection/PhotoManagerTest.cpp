@@ -83,6 +83,22 @@ TEST_F(PhotoManager, ReportsWhatCannotBeRead) {
     EXPECT_EQ(failures, 3U);
 }
 
+TEST_F(PhotoManager, ARawFileGetsASidecarFromTheImportsOfTheApplicationAlone) {
+    for (const char* name : {"a", "b", "c"})
+        fs::rename(makePhoto(folder, std::string(name) + ".jpg", {{"XMP:Title", name}}),
+                   folder / (std::string(name) + (*name == 'b' ? ".CRW" : ".png")));
+    import({folder.path()});
+    EXPECT_FALSE(fs::exists(folder / "b.xmp"));
+    manager.removePhotos(*manager.photos());
+    manager.setCreatesSidecarsOfRawFiles(true);
+    import({folder.path()});
+    EXPECT_EQ(namesOf(manager.photos()), "a.png b.CRW c.png") << "in order, though it is not read ahead";
+    for (const auto& photo : *manager.photos())
+        EXPECT_EQ(photo->valueForKey("title").description(), photo->filename().substr(0, 1));
+    EXPECT_EQ(tagsOf(folder / "b.xmp").valueForKey("XMP:Title"), KTValue("b"));
+    EXPECT_FALSE(fs::exists(folder / "a.xmp"));
+}
+
 TEST_F(PhotoManager, AnImportShowsItsProgressAndCanBeCancelled) {
     for (int i = 0; i < 40; ++i)
         makePhoto(folder, std::to_string(100 + i) + ".jpg");

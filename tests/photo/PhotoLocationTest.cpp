@@ -148,6 +148,39 @@ TEST_F(PhotoLocation, WritesPlaceNamesAsTheSettingsSay) {
     }
 }
 
+TEST_F(PhotoLocation, WritesWithAPositionTheNamesThatEveryCombinationOfTheSettingsAllows) {
+    constexpr const char* kSettings[] = {"defaultLatLonCreatedShouldReverseGeocodeLocation",
+                                         "defaultShouldOverwriteLocation", "defaultShouldSaveCountry",
+                                         "defaultShouldSaveState", "defaultShouldSaveCity"};
+    constexpr unsigned kCombinations = 1U << std::size(kSettings);
+    const auto known = knownPoint(KTLinkablePointTypeNext);
+    // One combination for the place created, another one for the place shown, so that a mix-up shows.
+    for (unsigned combination = 0; combination < 2 * kCombinations; ++combination) {
+        const unsigned ofCreated = combination / 2,
+                       ofShown = kCombinations - 1 - ofCreated * 7 % kCombinations;
+        const bool hasNames = combination % 2 != 0;
+        TrackedPhoto photo(KTPhoto::init());
+        for (const std::string which : {"Created", "Shown"}) {
+            for (unsigned i = 0; i < std::size(kSettings); ++i)
+                set((kSettings[i] + which).c_str(),
+                    ((which == "Created" ? ofCreated : ofShown) >> i & 1) != 0);
+            for (const std::string key : {"country", "state", "city"})
+                photo->setValueForKey(key + which, hasNames ? KTValue("old") : KTValue());
+        }
+        photo->setLocationCreatedFromLinkablePoint(known);
+        for (const std::string which : {"Created", "Shown"}) {
+            const unsigned bits = which == "Created" ? ofCreated : ofShown;
+            const bool mayWrite = (bits & 1) != 0 && (!hasNames || (bits & 2) != 0);
+            const std::string old = hasNames ? "old" : "";
+            const bool country = mayWrite && (bits & 4) != 0, state = country && (bits & 8) != 0,
+                       city = state && (bits & 16) != 0;
+            EXPECT_EQ(place(photo, which), (country ? "Switzerland" : old) + "/" +
+                                               (state ? "Basel-City" : old) + "/" + (city ? "Basel" : old))
+                << which << " " << bits << hasNames;
+        }
+    }
+}
+
 TEST_F(PhotoLocation, LeavesNamesAloneThatAreNotKnown) {
     fake->setAnswer({.place = {{"country", "Greenland"}}});
     TrackedPhoto photo(KTPhoto::init());

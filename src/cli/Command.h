@@ -30,6 +30,7 @@ void addFieldsCommand(CLI::App& app, CommandList& commands);
 void addSetCommand(CLI::App& app, CommandList& commands);
 void addGeotagCommand(CLI::App& app, CommandList& commands);
 void addPlaceCommand(CLI::App& app, CommandList& commands);
+void addZoneCommand(CLI::App& app, CommandList& commands);
 void addTracksCommands(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
 

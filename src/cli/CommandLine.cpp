@@ -1,5 +1,7 @@
 #include "cli/Command.h"
 
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
 #include "platform/common/KTUnitConverter.h"
 #include "platform/defaults/KTSettingsTable.h"
 #include "platform/defaults/KTUserDefaults.h"
@@ -18,19 +20,23 @@ struct GlobalOptions {
 
 void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
     app.set_version_flag("--version", [] { return KTAboutText("waymark-cli"); });
-    app.add_flag("--json", session.json, "One JSON document on standard output instead of text");
-    app.add_option("--settings", options.settings, "Use this settings file instead of the user's")
+    app.add_flag("--json", session.json,
+                 KTLocalizedString("One JSON document on standard output instead of text"));
+    app.add_option("--settings", options.settings,
+                   KTLocalizedString("Use this settings file instead of the user's"))
         ->type_name("FILE");
-    app.add_option("--set", options.assignments, "A setting for this run only; repeatable")
+    app.add_option("--set", options.assignments, KTLocalizedString("A setting for this run only; repeatable"))
         ->type_name("KEY=VALUE")
         ->expected(1)
         ->take_all()
         ->allow_extra_args(false);
-    app.add_option("--library", session.libraryFile, "The track library file (\":memory:\" for none kept)")
+    app.add_option("--library", session.libraryFile,
+                   KTLocalizedString("The track library file (\":memory:\" for none kept)"))
         ->type_name("FILE");
-    app.add_option("--progress", options.progress, "Show progress on standard error")
+    app.add_option("--progress", options.progress, KTLocalizedString("Show progress on standard error"))
         ->check(CLI::IsMember({"auto", "always", "never"}));
-    app.add_option("--exiftool", options.exifTool, "Use this Image::ExifTool library folder")
+    app.add_option("--exiftool", options.exifTool,
+                   KTLocalizedString("Use this Image::ExifTool library folder"))
         ->type_name("FOLDER");
     app.require_subcommand(1);
     app.fallthrough();
@@ -38,7 +44,8 @@ void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& ses
 
 void apply(const GlobalOptions& options, CommandSession& session) {
     if (!options.settings.empty() && !KTUserDefaults::useDomain(options.settings))
-        throw UsageError{"the settings file " + options.settings + " cannot be read"};
+        throw UsageError{
+            KTStringWithFormat(KTLocalizedString("the settings file %@ cannot be read"), {options.settings})};
     for (const std::string& text : options.assignments) {
         auto assignment = KTSettingsTable::parseAssignment(text);
         if (!assignment.error.empty())
@@ -47,7 +54,8 @@ void apply(const GlobalOptions& options, CommandSession& session) {
     }
     if (!options.exifTool.empty()) {
         if (!std::filesystem::exists(std::filesystem::path(options.exifTool) / "Image" / "ExifTool.pm"))
-            throw UsageError{"there is no Image/ExifTool.pm in " + options.exifTool};
+            throw UsageError{KTStringWithFormat(KTLocalizedString("there is no Image/ExifTool.pm in %@"),
+                                                {options.exifTool})};
         KTExifTool::setLibraryFolder(std::filesystem::absolute(options.exifTool));
     }
     const std::string units = KTUserDefaults::standardUserDefaults().textForKey("distanceUnits");
@@ -64,13 +72,15 @@ int runCommandLine(int argc, char** argv) {
     CommandSession session;
     GlobalOptions options;
     CommandList commands;
-    CLI::App app("Waymark geotags photos from GPS tracks and edits their metadata.", "waymark-cli");
+    CLI::App app(KTLocalizedString("Waymark geotags photos from GPS tracks and edits their metadata."),
+                 "waymark-cli");
     addGlobalOptions(app, options, session);
     addReadCommand(app, commands);
     addFieldsCommand(app, commands);
     addSetCommand(app, commands);
     addGeotagCommand(app, commands);
     addPlaceCommand(app, commands);
+    addZoneCommand(app, commands);
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
     try {

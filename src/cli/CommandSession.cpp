@@ -6,17 +6,25 @@
 #include "platform/common/KTText.h"
 
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 namespace {
 
 std::atomic<bool> interrupted = false;
-static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets it");
+std::atomic<int> interruption = -1; // an event that whoever waits for work may wait for too
+static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<int>::is_always_lock_free,
+              "a signal handler uses them");
 
 void noteSignal(int) {
+    const int error = errno;
     interrupted = true;
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const auto ignored = ::write(interruption, &one, sizeof one);
+    errno = error;
 }
 
 } // namespace
@@ -69,13 +77,16 @@ bool CommandSession::showsProgress() const {
     return progress == Progress::Always || (progress == Progress::Auto && isatty(STDERR_FILENO) == 1);
 }
 
-void CommandSession::showProgress(std::string_view format, std::size_t done, std::size_t total) {
+void CommandSession::showProgress(const std::string& line) {
     if (!showsProgress())
         return;
-    std::string line =
-        KTStringWithFormat(KTLocalizedString(format), {std::to_string(done), std::to_string(total)});
     std::fprintf(stderr, "\r%s\033[K", line.c_str());
     progressShown = true;
+}
+
+void CommandSession::showProgress(std::string_view format, std::size_t done, std::size_t total) {
+    showProgress(
+        KTStringWithFormat(KTLocalizedString(format), {std::to_string(done), std::to_string(total)}));
 }
 
 void CommandSession::endProgress() {
@@ -83,12 +94,15 @@ void CommandSession::endProgress() {
         std::fputs("\r\033[K", stderr);
 }
 
-void CommandSession::noteInterruptions() {
+int CommandSession::noteInterruptions() {
+    if (interruption == -1)
+        interruption = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     struct sigaction action = {};
     action.sa_handler = noteSignal;
     action.sa_flags = SA_RESTART;
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
+    return interruption;
 }
 
 bool CommandSession::isInterrupted() {

@@ -35,14 +35,15 @@ public:
     bool hasFailed() const { return failed; }
     void setFailed() { failed = true; }
 
-    /// Shows "DESCRIPTION", filled with the count of photos done and their total, in place of the last
-    /// progress line.
+    /// Shows @p line, in the user's language, in place of the last progress line.
+    void showProgress(const std::string& line);
+    /// The same, with @p format filled with the count of photos done and their total.
     void showProgress(std::string_view format, std::size_t done, std::size_t total);
     void endProgress();
 
     /// From now on Ctrl-C (and a request to terminate) is noted instead of ending the process, so that the
-    /// photo being written is finished.
-    static void noteInterruptions();
+    /// photo being written is finished. Returns a file descriptor that can be read from then on.
+    static int noteInterruptions();
     static bool isInterrupted();
     /// The exit status that the session's course calls for.
     int exitStatus() const;

@@ -1,6 +1,8 @@
 #include "cli/DemoTrip.h"
 #include "cli/GeotagCommand.h"
 
+#include "platform/common/KTLocalizedString.h"
+
 #include <CLI/CLI.hpp>
 
 namespace fs = std::filesystem;
@@ -60,7 +62,8 @@ private:
 
 void addDemoCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<DemoCommand>();
-    CLI::App* parser = app.add_subcommand("demo", "Make a small trip, geotag it and say what to try next");
-    parser->add_option("FOLDER", command->folder, "A new folder for the trip");
+    CLI::App* parser = app.add_subcommand(
+        "demo", KTLocalizedString("Make a small trip, geotag it and say what to try next"));
+    parser->add_option("FOLDER", command->folder, KTLocalizedString("A new folder for the trip"));
     commands.push_back({parser, std::move(command)});
 }

@@ -2,6 +2,7 @@
 #include "cli/JSONOutput.h"
 
 #include "metadata/KTMetadataFieldManager.h"
+#include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 
 #include <CLI/CLI.hpp>
@@ -75,6 +76,6 @@ private:
 } // namespace
 
 void addFieldsCommand(CLI::App& app, CommandList& commands) {
-    CLI::App* parser = app.add_subcommand("fields", "List the metadata fields by key");
+    CLI::App* parser = app.add_subcommand("fields", KTLocalizedString("List the metadata fields by key"));
     commands.push_back({parser, std::make_unique<FieldsCommand>()});
 }

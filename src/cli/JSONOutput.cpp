@@ -1,5 +1,6 @@
 #include "cli/JSONOutput.h"
 
+#include "platform/common/KTCalendar.h"
 #include "platform/common/KTText.h"
 
 JSONOutput::~JSONOutput() {
@@ -10,6 +11,17 @@ JSONOutput::~JSONOutput() {
 void JSONOutput::text(std::string_view bytes) {
     const std::string valid = KTIsUTF8(bytes) ? std::string(bytes) : KTValidUTF8(bytes);
     writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+}
+
+void JSONOutput::beginObjectWithArray(std::string_view name) {
+    beginObject();
+    key(name);
+    beginArray();
+}
+
+void JSONOutput::endObjectWithArray() {
+    endArray();
+    endObject();
 }
 
 void JSONOutput::key(std::string_view name) {
@@ -65,6 +77,15 @@ void JSONOutput::member(std::string_view name, const std::vector<KTPhotoOperatio
         endObject();
     }
     endArray();
+}
+
+void JSONOutput::captureDate(const std::string& key, const KTDateComponents& components) {
+    member(key, components);
+    if (const auto instant = KTInstantOfComponents(components)) {
+        const std::string family = key.substr(0, key.rfind("Components"));
+        member(family + "TimeZone", components.timeZone->offsetText(*instant));
+        member(family, *instant);
+    }
 }
 
 std::string isoReading(const KTDateComponents& components) {

@@ -19,6 +19,9 @@ public:
     void endObject() { writer.EndObject(); }
     void beginArray() { writer.StartArray(); }
     void endArray() { writer.EndArray(); }
+    /// An object that holds one array, `{"NAME": [ … ]}`, and its end.
+    void beginObjectWithArray(std::string_view name);
+    void endObjectWithArray();
     void key(std::string_view name);
     /// A value without a key, an element of an array; an absent one becomes null.
     void value(const KTValue& value);
@@ -27,6 +30,9 @@ public:
     void member(std::string_view name, const KTValue& value);
     void member(std::string_view name, const KTTagDictionary& tags);
     void member(std::string_view name, const std::vector<KTPhotoOperation>& operations);
+    /// The reading under its @p key, "dateTimeOriginalComponents", and where it stands for an instant, its
+    /// zone under "dateTimeOriginalTimeZone" and the instant under "dateTimeOriginal".
+    void captureDate(const std::string& key, const KTDateComponents& components);
 
 private:
     void text(std::string_view bytes);

@@ -2,6 +2,8 @@
 #include "cli/JSONOutput.h"
 
 #include "photo/KTLinkablePoint.h"
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
 #include "platform/gazetteer/KTGazetteer.h"
 
 #include <CLI/CLI.hpp>
@@ -25,7 +27,9 @@ public:
         if (session.json)
             printJSON(point->locationDictionary(), description);
         else
-            std::printf("%s\n", description.empty() ? "no place is known there" : description.c_str());
+            std::printf(
+                "%s\n",
+                (description.empty() ? KTLocalizedString("no place is known there") : description).c_str());
         return kExitDone;
     }
 
@@ -33,8 +37,9 @@ private:
     static KTDecimal degrees(const std::string& text, int limit) {
         const auto number = KTDecimal::fromText(text);
         if (!number || !(std::abs(number->toDouble()) <= limit))
-            throw UsageError{"\"" + text + "\" is not a number of degrees from -" + std::to_string(limit) +
-                             " to " + std::to_string(limit)};
+            throw UsageError{
+                KTStringWithFormat(KTLocalizedString("\"%@\" is not a number of degrees from -%@ to %@"),
+                                   {text, std::to_string(limit), std::to_string(limit)})};
         return *number;
     }
 
@@ -54,9 +59,9 @@ private:
 
 void addPlaceCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<PlaceCommand>();
-    CLI::App* parser =
-        app.add_subcommand("place", "Name the place at a position (-- before negative numbers)");
-    parser->add_option("LAT", command->latitude, "Degrees, north positive")->required();
-    parser->add_option("LON", command->longitude, "Degrees, east positive")->required();
+    CLI::App* parser = app.add_subcommand(
+        "place", KTLocalizedString("Name the place at a position (-- before negative numbers)"));
+    parser->add_option("LAT", command->latitude, KTLocalizedString("Degrees, north positive"))->required();
+    parser->add_option("LON", command->longitude, KTLocalizedString("Degrees, east positive"))->required();
     commands.push_back({parser, std::move(command)});
 }

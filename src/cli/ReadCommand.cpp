@@ -1,10 +1,9 @@
 #include "cli/Command.h"
+#include "cli/CommandCollection.h"
 #include "cli/JSONOutput.h"
 
 #include "metadata/KTFormatter.h"
 #include "metadata/KTMetadataFieldManager.h"
-#include "photo/KTPhotoReadAhead.h"
-#include "platform/common/KTCalendar.h"
 #include "platform/common/KTLocalizedString.h"
 
 #include <CLI/CLI.hpp>
@@ -16,34 +15,25 @@ public:
     std::vector<std::string> paths;
     std::string only;
 
+    /// Each photo leaves the collection as soon as it is shown, so that any number of them needs no more
+    /// memory than a few.
     int run(CommandSession& session) override {
-        CommandSession::noteInterruptions();
-        const auto files = session.photoFiles(paths);
-        KTPhotoReadAhead photos(files);
+        CommandCollection collection(session);
         std::optional<JSONOutput> json;
-        if (session.json) {
-            json.emplace();
-            json->beginObject();
-            json->key("photos");
-            json->beginArray();
-        }
-        for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
-            session.showProgress("Loading image %lu of %lu", i, files.size());
-            const auto [photo, failure] = photos.next();
-            if (!photo || !photo->isValid())
-                session.setFailed();
+        if (session.json)
+            json.emplace().beginObjectWithArray("photos");
+        collection.importPhotos(paths, [&](const auto& file, const auto& photo, const auto& operations) {
             if (!photo)
-                printFailure(session, json, files[i], failure);
+                printFailure(session, json, file, operations);
             else if (json)
-                printJSON(*json, *photo);
+                printJSON(*json, file, *photo);
             else
-                printText(session, *photo);
-        }
-        session.endProgress();
-        if (json) {
-            json->endArray();
-            json->endObject();
-        }
+                printText(session, file, *photo);
+            if (photo)
+                collection.photoManager().removePhotos({photo});
+        });
+        if (json)
+            json->endObjectWithArray();
         return session.exitStatus();
     }
 
@@ -63,9 +53,9 @@ private:
         json->endObject();
     }
 
-    void printJSON(JSONOutput& json, const KTPhoto& photo) const {
+    void printJSON(JSONOutput& json, const std::filesystem::path& file, const KTPhoto& photo) const {
         json.beginObject();
-        json.member("path", photo.fileURL().string());
+        json.member("path", file.string());
         json.member("valid", photo.isValid());
         json.member("fileSize", photo.valueForKey("fileSize"));
         if (wants("tags")) {
@@ -94,25 +84,20 @@ private:
         json.beginObject();
         for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields()) {
             const KTValue value = photo.valueForKey(field->key());
-            json.member(field->key(), value);
-            auto components = value.components();
-            auto instant = components ? KTInstantOfComponents(*components) : std::nullopt;
-            if (instant) { // the zone is a property of its own: dateTimeOriginalComponents,
-                           // dateTimeOriginalTimeZone
-                const std::string family =
-                    field->key().substr(0, field->key().size() - std::size("Components") + 1);
-                json.member(family + "TimeZone", components->timeZone->offsetText(*instant));
-                json.member(family, *instant);
-            }
+            if (const auto components = value.components())
+                json.captureDate(field->key(), *components);
+            else
+                json.member(field->key(), value);
         }
         json.endObject();
     }
 
-    static void printText(CommandSession& session, const KTPhoto& photo) {
-        std::printf("%s\n", photo.fileURL().c_str());
+    static void printText(const CommandSession& session, const std::filesystem::path& file,
+                          const KTPhoto& photo) {
+        std::printf("%s\n", file.c_str());
         for (const KTPhotoOperation& operation : photo.photoOperations())
             if (operation.resultType() == KTPhotoOperation::Failure)
-                session.message(photo.fileURL().string() + ": " + operation.resultDescription());
+                session.message(file.string() + ": " + operation.resultDescription());
         for (const auto& group : KTMetadataFieldManager::sharedMetadataFieldManager().metadataGroups()) {
             bool headed = false;
             for (const auto& field : group->fields()) {
@@ -138,9 +123,9 @@ private:
 
 void addReadCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<ReadCommand>();
-    CLI::App* parser = app.add_subcommand("read", "Show what photos hold");
-    parser->add_option("--only", command->only, "Only the tags or only the properties")
+    CLI::App* parser = app.add_subcommand("read", KTLocalizedString("Show what photos hold"));
+    parser->add_option("--only", command->only, KTLocalizedString("Only the tags or only the properties"))
         ->check(CLI::IsMember({"tags", "properties"}));
-    parser->add_option("PATH", command->paths, "Photos, sidecars or folders")->required();
+    parser->add_option("PATH", command->paths, KTLocalizedString("Photos, sidecars or folders"))->required();
     commands.push_back({parser, std::move(command)});
 }

@@ -1,9 +1,9 @@
 #include "cli/Command.h"
+#include "cli/CommandCollection.h"
 #include "cli/JSONOutput.h"
 #include "cli/SaveOptions.h"
 
 #include "metadata/KTMetadataFieldManager.h"
-#include "photo/KTPhotoChangeTracker.h"
 #include "photo/KTSameValue.h"
 #include "platform/common/KTCalendar.h"
 #include "platform/common/KTLocalizedString.h"
@@ -19,7 +19,8 @@ KTValue valueFromText(const KTMetadataField& field, std::string_view text) {
     if (KTTrimmed(text).empty())
         return {};
     auto complain = [&](const char* expected) -> UsageError {
-        return {"\"" + std::string(text) + "\" is not a value of " + field.key() + ": " + expected};
+        return {KTStringWithFormat(KTLocalizedString("\"%@\" is not a value of %@: %@"),
+                                   {std::string(text), field.key(), KTLocalizedString(expected)})};
     };
     switch (field.propertyType()) {
     case KTValueType::Text:
@@ -61,28 +62,30 @@ public:
         std::vector<std::string> paths;
         split(edits, paths);
         saving.apply();
-        CommandSession::noteInterruptions();
-        const auto files = session.photoFiles(paths);
-        std::optional<JSONOutput> json;
-        if (session.json) {
-            json.emplace();
-            json->beginObject();
-            json->key("photos");
-            json->beginArray();
-        }
-        for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
-            session.showProgress("Saving photo %u of %u", i + 1, files.size());
-            edit(session, json, files[i], edits);
-        }
-        session.endProgress();
-        if (json) {
-            json->endArray();
-            json->endObject();
-        }
+        CommandCollection collection(session);
+        std::vector<Edited> all;
+        CommandCollection::Photos photos;
+        collection.importPhotos(paths, [&](const auto& file, const auto& photo, const auto& operations) {
+            Edited& edited = all.emplace_back(file, photo && photo->isValid() ? photo : nullptr, operations);
+            if (!edited.photo)
+                return;
+            edit(edited, edits);
+            photos.push_back(photo);
+        });
+        collection.savePhotos(photos);
+        report(session, all);
         return session.exitStatus();
     }
 
 private:
+    /// A file and what became of it.
+    struct Edited {
+        std::filesystem::path file;
+        std::shared_ptr<KTPhoto> photo; ///< null where it could not be read
+        std::vector<KTPhotoOperation> operations;
+        KTValue::Dictionary wanted = {}; ///< what the photo makes of the edits
+    };
+
     /// The leading KEY=VALUE arguments are edits, the rest paths.
     void split(std::vector<std::pair<std::string, KTValue>>& edits, std::vector<std::string>& paths) const {
         for (const std::string& argument : arguments) {
@@ -97,61 +100,61 @@ private:
             const std::string key = argument.substr(0, equals);
             auto field = KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key);
             if (!field)
-                throw UsageError{"there is no field \"" + key + "\" (waymark-cli fields lists them)"};
+                throw UsageError{KTStringWithFormat(
+                    KTLocalizedString("there is no field \"%@\" (waymark-cli fields lists them)"), {key})};
             if (field->readonly())
-                throw UsageError{"the field \"" + key + "\" cannot be edited"};
+                throw UsageError{
+                    KTStringWithFormat(KTLocalizedString("the field \"%@\" cannot be edited"), {key})};
             edits.emplace_back(key, valueFromText(*field, std::string_view(argument).substr(equals + 1)));
         }
         if (edits.empty() || paths.empty())
-            throw UsageError{"set takes KEY=VALUE... PATH..."};
+            throw UsageError{KTLocalizedString("set takes KEY=VALUE... PATH...")};
     }
 
-    void edit(CommandSession& session, std::optional<JSONOutput>& json, const std::filesystem::path& file,
-              const std::vector<std::pair<std::string, KTValue>>& edits) const {
-        std::vector<KTPhotoOperation> operations;
-        const bool saved = editAndSave(file, edits, operations);
+    static void edit(Edited& edited, const std::vector<std::pair<std::string, KTValue>>& edits) {
+        for (const auto& [key, value] : edits)
+            edited.photo->setValueForKey(key, value);
+        for (const auto& [key, value] : edits)
+            edited.wanted[key] = edited.photo->valueForKey(key);
+    }
+
+    static void report(CommandSession& session, std::vector<Edited>& all) {
+        std::optional<JSONOutput> json;
+        if (session.json)
+            json.emplace().beginObjectWithArray("photos");
+        for (Edited& edited : all)
+            report(session, json, edited);
+        if (json)
+            json->endObjectWithArray();
+    }
+
+    static void report(CommandSession& session, std::optional<JSONOutput>& json, Edited& edited) {
+        const bool saved = isSaved(edited);
         if (!saved)
             session.setFailed();
-        session.messages(file, operations);
+        session.messages(edited.file, edited.operations);
         if (!json) {
-            std::printf("%s: %s\n", file.c_str(), saved ? "saved" : "not saved");
+            std::printf("%s: %s\n", edited.file.c_str(),
+                        KTLocalizedString(saved ? "saved" : "not saved").c_str());
             return;
         }
         json->beginObject();
-        json->member("path", file.string());
+        json->member("path", edited.file.string());
         json->member("saved", saved);
-        json->member("operations", operations);
+        json->member("operations", edited.operations);
         json->endObject();
     }
 
-    bool editAndSave(const std::filesystem::path& file,
-                     const std::vector<std::pair<std::string, KTValue>>& edits,
-                     std::vector<KTPhotoOperation>& operations) const {
-        const auto photo = KTPhoto::initWithFile(file, {}, nullptr, {.log = &operations});
-        if (!photo)
+    static bool isSaved(Edited& edited) {
+        if (!edited.photo)
             return false;
-        if (photo->isValid()) {
-            const KTPhotoChangeTracker tracker(*photo);
-            for (const auto& [key, value] : edits)
-                photo->setValueForKey(key, value);
-            const auto wanted = valuesOf(*photo, edits);
-            photo->saveWithBackupToFolder(saving.backupFolder());
-            for (const auto& [key, value] : wanted) // a failed save has said why
-                if (!photo->hasUnsavedChanges() && !KTIsSameValue(value, photo->savedPropertyWithKey(key)))
-                    photo->addPhotoOperation(notKept(file, key));
-        }
-        operations = photo->photoOperations();
-        return photo->isValid() && !photo->hasUnsavedChanges() &&
-               operations.back().resultType() != KTPhotoOperation::Failure;
-    }
-
-    /// What the photo makes of the edits.
-    static KTValue::Dictionary valuesOf(const KTPhoto& photo,
-                                        const std::vector<std::pair<std::string, KTValue>>& edits) {
-        KTValue::Dictionary values;
-        for (const auto& [key, value] : edits)
-            values[key] = photo.valueForKey(key);
-        return values;
+        KTPhoto& photo = *edited.photo;
+        const bool isWritten = !photo.hasUnsavedChanges();
+        for (const auto& [key, value] : edited.wanted) // a failed save has said why
+            if (isWritten && !KTIsSameValue(value, photo.savedPropertyWithKey(key)))
+                photo.addPhotoOperation(notKept(edited.file, key));
+        edited.operations = photo.photoOperations();
+        return isWritten && edited.operations.back().resultType() != KTPhotoOperation::Failure;
     }
 
     static KTPhotoOperation notKept(const std::filesystem::path& file, const std::string& key) {
@@ -169,11 +172,11 @@ private:
 
 void addSetCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<SetCommand>();
-    CLI::App* parser = app.add_subcommand("set", "Set fields by key and save");
+    CLI::App* parser = app.add_subcommand("set", KTLocalizedString("Set fields by key and save"));
     command->saving.addTo(*parser);
     parser
         ->add_option("KEY=VALUE... PATH...", command->arguments,
-                     "Edits, then photos or folders; an empty value clears")
+                     KTLocalizedString("Edits, then photos or folders; an empty value clears"))
         ->required();
     commands.push_back({parser, std::move(command)});
 }

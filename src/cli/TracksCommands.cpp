@@ -1,6 +1,9 @@
 #include "cli/Command.h"
 #include "cli/JSONOutput.h"
 
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
+
 #include <CLI/CLI.hpp>
 #include <iostream>
 
@@ -15,12 +18,8 @@ public:
         if (library == nullptr)
             return session.exitStatus();
         std::optional<JSONOutput> json;
-        if (session.json) {
-            json.emplace();
-            json->beginObject();
-            json->key("imports");
-            json->beginArray();
-        }
+        if (session.json)
+            json.emplace().beginObjectWithArray("imports");
         for (const std::string& file : files) {
             const KTTrackImportResult result = library->importFile(file);
             if (!result.succeeded())
@@ -30,10 +29,8 @@ public:
             else if (result.succeeded())
                 printText(file, result);
         }
-        if (json) {
-            json->endArray();
-            json->endObject();
-        }
+        if (json)
+            json->endObjectWithArray();
         return session.exitStatus();
     }
 
@@ -85,9 +82,7 @@ private:
 
     static void printJSON(const std::vector<KTTrack>& tracks) {
         JSONOutput json;
-        json.beginObject();
-        json.key("tracks");
-        json.beginArray();
+        json.beginObjectWithArray("tracks");
         for (const KTTrack& track : tracks) {
             json.beginObject();
             json.member("id", track.id);
@@ -101,14 +96,15 @@ private:
             json.member("lastDate", track.lastDate);
             json.endObject();
         }
-        json.endArray();
-        json.endObject();
+        json.endObjectWithArray();
     }
 
     static void printText(const KTTrack& track) {
         const std::string span =
-            track.firstDate ? KTISO8601Text(*track.firstDate) + " to " + KTISO8601Text(*track.lastDate)
-                            : std::string("no dates");
+            track.firstDate
+                ? KTStringWithFormat(KTLocalizedString("%@ to %@"),
+                                     {KTISO8601Text(*track.firstDate), KTISO8601Text(*track.lastDate)})
+                : KTLocalizedString("no dates");
         const auto count = track.kind == KTTrack::Kind::Waypoints ? track.waypointCount : track.pointCount;
         std::printf("%lld\t%s\t%s\t%lld %s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
                     track.name.c_str(), static_cast<long long>(count),
@@ -129,7 +125,8 @@ public:
         if (!deletion.error.empty())
             session.failure(deletion.error);
         for (std::int64_t id : deletion.unknown)
-            session.failure("there is no track " + std::to_string(id));
+            session.failure(
+                KTStringWithFormat(KTLocalizedString("there is no track %@"), {std::to_string(id)}));
         if (session.json) {
             JSONOutput json;
             json.beginObject();
@@ -137,7 +134,9 @@ public:
             json.value(KTValue(KTValue::List(deletion.deleted.begin(), deletion.deleted.end())));
             json.endObject();
         } else {
-            std::printf("%zu removed\n", deletion.deleted.size());
+            std::printf("%s\n", KTStringWithFormat(KTLocalizedString("%@ removed"),
+                                                   {std::to_string(deletion.deleted.size())})
+                                    .c_str());
         }
         return session.exitStatus();
     }
@@ -156,7 +155,7 @@ public:
             session.failure(error);
         std::cout.flush();
         if (!std::cout)
-            session.failure("standard output could not be written");
+            session.failure(KTLocalizedString("standard output could not be written"));
         return session.exitStatus();
     }
 };
@@ -172,20 +171,27 @@ Commands& add(CLI::App* parser, CommandList& commands) {
 } // namespace
 
 void addTracksCommands(CLI::App& app, CommandList& commands) {
-    CLI::App* tracks = app.add_subcommand("tracks", "The track library");
+    CLI::App* tracks = app.add_subcommand("tracks", KTLocalizedString("The track library"));
     tracks->require_subcommand(1);
 
-    CLI::App* import =
-        tracks->add_subcommand("import", "Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)");
-    import->add_option("FILE", add<TracksImportCommand>(import, commands).files, "Track files")->required();
+    CLI::App* import = tracks->add_subcommand(
+        "import", KTLocalizedString("Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)"));
+    import
+        ->add_option("FILE", add<TracksImportCommand>(import, commands).files,
+                     KTLocalizedString("Track files"))
+        ->required();
 
-    add<TracksListCommand>(tracks->add_subcommand("list", "List what the library holds"), commands);
+    add<TracksListCommand>(tracks->add_subcommand("list", KTLocalizedString("List what the library holds")),
+                           commands);
 
-    CLI::App* remove = tracks->add_subcommand("remove", "Delete from the library by the ids that list shows");
-    remove->add_option("ID", add<TracksRemoveCommand>(remove, commands).ids, "Ids")->required();
+    CLI::App* remove = tracks->add_subcommand(
+        "remove", KTLocalizedString("Delete from the library by the ids that list shows"));
+    remove->add_option("ID", add<TracksRemoveCommand>(remove, commands).ids, KTLocalizedString("Ids"))
+        ->required();
 
-    CLI::App* exported = tracks->add_subcommand("export", "Write tracks to standard output");
+    CLI::App* exported =
+        tracks->add_subcommand("export", KTLocalizedString("Write tracks to standard output"));
     auto& command = add<TracksExportCommand>(exported, commands);
     exported->add_option("--format", command.format, "gpx")->check(CLI::IsMember({"gpx"}));
-    exported->add_option("ID", command.ids, "Ids")->required();
+    exported->add_option("ID", command.ids, KTLocalizedString("Ids"))->required();
 }

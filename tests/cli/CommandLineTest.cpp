@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/stat.h>
@@ -129,6 +130,57 @@ TEST_F(CommandLine, ReadsAndSetsPhotos) {
     EXPECT_NE(text.output.find("Rating: 3"), std::string::npos) << text.output;
 }
 
+TEST_F(CommandLine, SetsTheZoneAndShowsInstants) {
+    makePhoto(folder, "a.jpg", {{"EXIF:DateTimeOriginal", "2014:06:01 12:00:00"}});
+    makePhoto(folder, "b.jpg");
+    const std::string before = contentOf(folder / "a.jpg");
+    const Result zone = run({"zone", "+02:00", "."});
+    EXPECT_EQ(zone.status, 0) << zone.errors;
+    EXPECT_EQ(zone.output, "./a.jpg: 2014-06-01T10:00:00Z\n./b.jpg: no capture date\n");
+    EXPECT_EQ(contentOf(folder / "a.jpg"), before);
+    EXPECT_FALSE(std::filesystem::exists(folder / "a.xmp"));
+    const QJsonValue read = run({"--json", "read", "a.jpg"}).json()["photos"][0]["properties"];
+    EXPECT_EQ(read["dateTimeOriginal"].toString(), "2014-06-01T10:00:00Z") << "the zone stays set";
+    const Result region = run({"--json", "zone", "Asia/Kolkata", "a.jpg"});
+    EXPECT_EQ(region.json()["timeZone"].toString(), "+05:30");
+    EXPECT_EQ(region.json()["photos"][0]["dateTimeOriginal"].toString(), "2014-06-01T06:30:00Z");
+    EXPECT_NE(region.errors.find("fixed offset +05:30"), std::string::npos) << region.errors;
+    EXPECT_EQ(run({"zone", "--", "-03:00", "a.jpg"}).output, "a.jpg: 2014-06-01T15:00:00Z\n");
+}
+
+TEST_F(CommandLine, ShowsTheProgressOfTheCollectionAndStopsWhenInterrupted) {
+    constexpr int kPhotos = 60;
+    for (int i = 0; i < kPhotos; ++i)
+        makePhoto(folder, "photos/" + std::to_string(100 + i) + ".jpg");
+    std::map<std::string, std::string> before;
+    for (const auto& entry : std::filesystem::directory_iterator(folder / "photos"))
+        before[entry.path()] = contentOf(entry.path());
+    QProcess process;
+    prepare(process, {"--json", "--progress", "always", "set", "title=interrupted", "photos"});
+    process.setReadChannel(QProcess::StandardError);
+    process.start();
+    QByteArray errors;
+    while (!errors.contains("Saving to photo 3 of 60") && process.waitForReadyRead(60000))
+        errors += process.readAllStandardError();
+    ASSERT_EQ(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 130);
+    EXPECT_TRUE(errors.contains("Loading image")) << errors.toStdString();
+    const QJsonArray photos = QJsonDocument::fromJson(process.readAllStandardOutput())["photos"].toArray();
+    ASSERT_EQ(photos.size(), kPhotos);
+    int saved = 0;
+    for (const QJsonValue photo : photos) {
+        const std::filesystem::path file = folder / photo["path"].toString().toStdString();
+        saved += photo["saved"].toBool() ? 1 : 0;
+        EXPECT_EQ(contentOf(file) == before.at(file), !photo["saved"].toBool()) << file;
+        EXPECT_EQ(tagsOf(file).valueForKey("XMP:Title").isSomething(), photo["saved"].toBool()) << file;
+    }
+    EXPECT_GE(saved, 3);
+    EXPECT_LT(saved, kPhotos);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "photos"), {}), kPhotos)
+        << "nothing half written is left";
+}
+
 TEST_F(CommandLine, NamesPlaces) {
     const QJsonObject basel = run({"--json", "place", "47.5581", "7.5878"}).json().toObject();
     EXPECT_EQ(basel["description"].toString(), "Basel, Basel-City, Switzerland");
@@ -152,8 +204,9 @@ TEST_F(CommandLine, SavesAsTheOptionsSay) {
                    "creationDate=2014-06-01 12:00:00", "a.jpg"})
                   .status,
               0);
-    EXPECT_EQ(contentOf(folder / "backup/a.jpg"), before);
-    EXPECT_EQ(tagsOf(folder / "backup/a.xmp").valueForKey("XMP:Title"), KTValue("t"));
+    const std::filesystem::path backup = *std::filesystem::directory_iterator(folder / "backup");
+    EXPECT_EQ(contentOf(backup / "a.jpg"), before);
+    EXPECT_EQ(tagsOf(backup / "a.xmp").valueForKey("XMP:Title"), KTValue("t"));
     EXPECT_EQ(tagsOf(photo).valueForKey("XMP:Title"), KTValue("u"));
     EXPECT_EQ(tagsOf(folder / "a.xmp").valueForKey("XMP:Title"), KTValue("u"));
     EXPECT_EQ(std::filesystem::last_write_time(photo), modified);
@@ -199,6 +252,8 @@ TEST_F(CommandLine, SaysWhatIsWrongAndTouchesNothing) {
                                          {"set", "rating=many", "a.jpg"},
                                          {"set", "dateTimeOriginalComponents=yesterday", "a.jpg"},
                                          {"geotag", "--time-zone", "Mars", "a.jpg"},
+                                         {"zone", "Mars", "a.jpg"},
+                                         {"zone", "Z"},
                                          {"geotag", "--sidecar-style", "7", "a.jpg"},
                                          {"geotag"},
                                          {"tracks"}})

@@ -1,5 +1,6 @@
 #pragma once
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,9 @@ struct KTMenuItem {
     bool isEnabled = true;
     std::vector<KTMenuItem> submenu = {};
     long tag = 0;
+    std::string identifier = {}; ///< names the command, the same each time the menu is made; may be empty
+    std::string shortcut = {};   ///< "Ctrl+Shift+S", in Qt's portable notation; empty for none
+    std::optional<bool> isChecked = {}; ///< whether it bears a check mark; nothing for an item without one
 
     static KTMenuItem separator() { return {}; }
     bool isSeparator() const { return title.empty(); }

@@ -1,0 +1,49 @@
+#pragma once
+#include "platform/presentation/KTPresenter.h"
+
+#include <memory>
+#include <string>
+
+class AppPreferencesWindowController;
+class KTAppTrackPickerController;
+class KTPhotoOperationWindowController;
+class KTTagDetailsWindowController;
+class WaymarkAppController;
+class WaymarkWindow;
+class WaymarkWindowController;
+
+/// A window of one controller. It is on the screen while the controller's "isWindowVisible" is true, comes
+/// forward each time that is announced, and sets it to false when the user closes it. It is destroyed before
+/// its controller.
+class KTWindow {
+public:
+    virtual ~KTWindow() = default;
+};
+
+/// What the application asks of whoever has a screen: the windows of src/ui, or a test in their stead. Main
+/// thread. Making a window must be quick: what it shows may be made when it is first shown.
+class WaymarkUserInterface {
+public:
+    using Window = std::unique_ptr<KTWindow>;
+
+    virtual ~WaymarkUserInterface() = default;
+
+    // The windows of controllers that have just been made. Never null.
+    virtual std::unique_ptr<WaymarkWindow> makeWaymarkWindow(WaymarkWindowController& controller) = 0;
+    virtual Window makePreferencesWindow(AppPreferencesWindowController& controller) = 0;
+    virtual Window makeTagDetailsWindow(KTTagDetailsWindowController& controller) = 0;
+    virtual Window makePhotoOperationWindow(KTPhotoOperationWindowController& controller) = 0;
+    virtual Window makeTrackPickerWindow(KTAppTrackPickerController& controller) = 0;
+
+    /// Shows name, version and licences.
+    virtual void showAboutBox() = 0;
+    /// Asks the user where there is no main window.
+    virtual KTPresenter& presenter() = 0;
+    /// The text on the clipboard.
+    virtual std::string clipboardText() = 0;
+    virtual void setClipboardText(const std::string& text) = 0;
+    /// Lets the event loop end soon. Nothing is asked any more.
+    virtual void terminate() = 0;
+    /// The version of the toolkit that the program runs on, as 60402 for 6.4.2.
+    virtual int toolkitVersion() const = 0;
+};

@@ -36,20 +36,12 @@ std::vector<std::filesystem::path> CommandSession::photoFiles(const std::vector<
     return std::move(list.files);
 }
 
-std::filesystem::path CommandSession::defaultLibraryFile() {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    const char* home = std::getenv("HOME");
-    std::filesystem::path folder = data != nullptr && *data == '/'
-                                       ? std::filesystem::path(data)
-                                       : std::filesystem::path(home != nullptr ? home : ".") / ".local/share";
-    return folder / "waymark" / "tracks.sqlite";
-}
-
 KTTrackManager* CommandSession::tracks() {
     if (trackManager)
         return trackManager.get();
     KTTrackStore::Opened opened =
-        KTTrackStore::open(libraryFile.empty() ? defaultLibraryFile() : std::filesystem::path(libraryFile));
+        KTTrackStore::open(
+        libraryFile.empty() ? KTTrackManager::userLibraryFile() : std::filesystem::path(libraryFile));
     if (opened.store)
         trackManager = std::make_unique<KTTrackManager>(std::move(opened.store));
     else

@@ -24,7 +24,6 @@ public:
 
     /// The track library, opened on first use; null, with a message, when it cannot be.
     KTTrackManager* tracks();
-    static std::filesystem::path defaultLibraryFile();
 
     /// The warnings and failures among a photo's @p operations, as messages.
     void messages(const std::filesystem::path& photo, const std::vector<KTPhotoOperation>& operations) const;

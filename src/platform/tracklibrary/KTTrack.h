@@ -19,6 +19,10 @@ struct KTTrack {
     std::int64_t waypointCount = 0;
     std::optional<KTInstant> firstDate; ///< earliest date of a point, not the date of the first one
     std::optional<KTInstant> lastDate;
+
+    /// How many colours tell tracks apart, and which of them is this one's; the same wherever it is shown.
+    static constexpr int kColors = 8;
+    int colorIndex() const { return static_cast<int>(id % kColors); }
 };
 
 struct KTWaypoint {

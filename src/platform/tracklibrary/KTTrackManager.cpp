@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_set>
 
 namespace {
 
@@ -26,7 +27,26 @@ std::string unreadableReason(const std::filesystem::path& file) {
 
 } // namespace
 
-KTTrackImportResult KTTrackManager::importFile(const std::filesystem::path& file) {
+KTTrackManager::KTTrackManager(std::unique_ptr<KTTrackStore> ownedStore)
+    : trackStore(std::move(ownedStore)), self(std::make_shared<KTTrackManager*>(this)) {}
+
+KTTrackManager::~KTTrackManager() {
+    importStop.request_stop();
+}
+
+std::vector<std::string> KTTrackManager::validFileTypes() {
+    std::vector<std::string> types;
+    for (const std::string& extension : trackFileExtensions())
+        types.push_back(extension.substr(1));
+    return types;
+}
+
+bool KTTrackManager::validFileTypePredicate(const std::filesystem::path& path) {
+    return std::ranges::count(trackFileExtensions(), KTLowercase(path.extension().string())) != 0;
+}
+
+KTTrackImportResult KTTrackManager::importFile(const std::filesystem::path& file,
+                                               const std::stop_token& stop) {
     std::string reason = unreadableReason(file);
     if (!reason.empty()) {
         KTTrackImportResult failed;
@@ -41,8 +61,8 @@ KTTrackImportResult KTTrackManager::importFile(const std::filesystem::path& file
         if (auto earlier = trackStore->importedContent(trackFileHash(path)))
             return *earlier;
     }
-    auto result =
-        trackStore->importTracks(path, [&](TrackFileSink& sink) { return readTrackFile(path, sink); });
+    auto result = trackStore->importTracks(
+        path, [&](TrackFileSink& sink) { return readTrackFile(path, sink); }, stop);
     if (result.addedSomething())
         post({KTTrackManagerDidAddNewImportSource, result.trackIDs});
     return result;
@@ -70,16 +90,26 @@ KTNearbyPredicates KTTrackManager::nearbyPredicatesForDates(std::vector<KTInstan
 std::vector<KTTrack> KTTrackManager::tracksForPredicate(const KTTrackPredicate& predicate) const {
     std::vector<KTTrack> found = trackStore->tracks();
     std::erase_if(found, [&](const KTTrack& track) {
-        return track.kind != KTTrack::Kind::Track || !track.firstDate || !track.lastDate ||
-               !predicate.matches(*track.firstDate, *track.lastDate);
+        return track.kind == KTTrack::Kind::Waypoints || !predicate.matches(track);
     });
     return found;
 }
 
 std::vector<KTWaypoint> KTTrackManager::waypointsForPredicate(const KTTrackPredicate& predicate) const {
     std::vector<KTWaypoint> found;
-    for (const KTTrackPredicate::Span& span : predicate.spans)
-        std::ranges::move(trackStore->waypointsBetween(span.first, span.last), std::back_inserter(found));
+    if (!predicate.meansEverything)
+        for (const KTTrackPredicate::Span& span : predicate.spans)
+            std::ranges::move(trackStore->waypointsBetween(span.first, span.last), std::back_inserter(found));
+    std::unordered_set<std::int64_t> known;
+    for (const KTWaypoint& waypoint : found)
+        known.insert(waypoint.id);
+    if (!predicate.meansEverything && predicate.sources.empty())
+        return found;
+    for (const KTTrack& track : trackStore->tracks())
+        if (track.waypointCount > 0 && predicate.matchesSource(track.source))
+            for (KTWaypoint& waypoint : trackStore->waypoints(track.id))
+                if (known.insert(waypoint.id).second)
+                    found.push_back(std::move(waypoint));
     return found;
 }
 

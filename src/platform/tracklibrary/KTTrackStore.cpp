@@ -3,9 +3,11 @@
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTLog.h"
 #include "platform/common/KTText.h"
+#include "platform/geodesy/KTGeodesy.h"
 #include "platform/tracklibrary/TrackEventQueue.h"
 #include "platform/tracklibrary/TrackQueries.h"
 #include "platform/tracklibrary/TrackRemoval.h"
+#include "platform/tracklibrary/TrackRestoring.h"
 #include "platform/tracklibrary/TrackStoreImport.h"
 
 #include <ostream>
@@ -76,6 +78,40 @@ struct KTTrackStore::Connections {
             KTLog(KTStringWithFormat("Error occurred in %@: %@", {std::string(action), error.what()}));
             return fallback;
         }
+    }
+    /// Runs @p query, which takes long, on a connection of its own, so that searches do not wait for it.
+    template<class Query>
+    void readLong(std::string_view action, const Query& query) {
+        try {
+            std::unique_ptr<TrackDatabase> own;
+            if (reader)
+                own = std::make_unique<TrackDatabase>(file, TrackDatabase::Access::ReadOnly);
+            TrackDatabase& database = own ? *own : writer;
+            std::lock_guard lock(database.mutex);
+            query(database);
+        } catch (const SQLite::Exception& error) {
+            KTLog(KTStringWithFormat("Error occurred in %@: %@", {std::string(action), error.what()}));
+        }
+    }
+    Deletion remove(const std::vector<std::int64_t>& ids, std::optional<std::int64_t> removal) {
+        Deletion result;
+        std::lock_guard lock(writer.mutex);
+        try {
+            if (removal)
+                prepareRestoring(writer);
+            WriteTransaction transaction(writer);
+            if (removal)
+                forgetKeptTracks(writer, *removal);
+            for (std::int64_t id : ids) {
+                if (removal)
+                    keepTrack(writer, id, *removal);
+                (removeTrack(writer, id) ? result.deleted : result.unknown).push_back(id);
+            }
+            transaction.commit();
+        } catch (const SQLite::Exception& error) {
+            result = {{}, {}, libraryError(error)};
+        }
+        return result;
     }
     std::optional<KTGeoPoint> search(std::string_view action, const char* sql, KTInstant time) {
         return read<std::optional<KTGeoPoint>>(
@@ -170,26 +206,71 @@ std::string KTTrackStore::exportGPX(const std::vector<std::int64_t>& ids, std::o
 }
 
 KTTrackStore::Deletion KTTrackStore::deleteTracks(const std::vector<std::int64_t>& ids) {
-    Deletion result;
+    return connections->remove(ids, {});
+}
+
+KTTrackStore::Deletion KTTrackStore::deleteTracks(const std::vector<std::int64_t>& ids,
+                                                  std::int64_t removal) {
+    return connections->remove(ids, removal);
+}
+
+KTTrackStore::Restoration KTTrackStore::restoreTracks(std::int64_t removal) {
+    Restoration result;
     std::lock_guard lock(connections->writer.mutex);
     try {
+        prepareRestoring(connections->writer);
         WriteTransaction transaction(connections->writer);
-        for (std::int64_t id : ids)
-            (removeTrack(connections->writer, id) ? result.deleted : result.unknown).push_back(id);
+        result.restored = restoreKeptTracks(connections->writer, removal);
         transaction.commit();
     } catch (const SQLite::Exception& error) {
-        result = {{}, {}, libraryError(error)};
+        result = {{}, libraryError(error)};
     }
     return result;
 }
 
-KTTrackImportResult KTTrackStore::importTracks(const std::filesystem::path& file, const Read& read) {
+void KTTrackStore::visitPositions(
+    std::int64_t track,
+    const std::function<void(double longitude, double latitude, bool beginsSegment)>& visit) const {
+    connections->readLong("visitPositions",
+                          [&](TrackDatabase& database) { visitPositionsOfTrack(database, track, visit); });
+}
+
+std::optional<double> KTTrackStore::lengthOfTrack(std::int64_t track) const {
+    struct Position {
+        double longitude, latitude;
+    };
+    std::optional<Position> last;
+    std::optional<double> metres;
+    visitPositions(track, [&](double longitude, double latitude, bool beginsSegment) {
+        if (last && !beginsSegment)
+            metres =
+                metres.value_or(0) + KTEarthDistance(last->longitude, last->latitude, longitude, latitude);
+        last = {longitude, latitude};
+    });
+    return metres;
+}
+
+std::vector<std::optional<std::int64_t>>
+KTTrackStore::tracksWithPointsAt(const std::vector<KTInstant>& times) const {
+    std::vector<std::optional<std::int64_t>> found;
+    connections->readLong("tracksWithPointsAt",
+                          [&](TrackDatabase& database) { found = tracksOfPointsAt(database, times); });
+    found.resize(times.size());
+    return found;
+}
+
+std::vector<std::int64_t> KTTrackStore::recentSources() const {
+    return connections->read("recentSources", std::vector<std::int64_t>(), listRecentSources);
+}
+
+KTTrackImportResult KTTrackStore::importTracks(const std::filesystem::path& file, const Read& read,
+                                               const std::stop_token& stop) {
     TrackDatabase& database = connections->writer;
     std::lock_guard lock(database.mutex);
     KTTrackImportResult failed;
     try {
         WriteTransaction transaction(database);
-        TrackStoreImport import(database, file);
+        TrackStoreImport import(database, file, stop);
         TrackFileContent content = readBeside(read, import);
         if (content.problem) {
             failed.error = messageFor(file, *content.problem);
@@ -200,6 +281,9 @@ KTTrackImportResult KTTrackStore::importTracks(const std::filesystem::path& file
         if (import.finish(content.size, content.hash))
             transaction.commit();
         return import.result();
+    } catch (const TrackImportStopped&) {
+        failed.error = messageFor(file, {0, KTLocalizedString("the import was stopped")});
+        return failed;
     } catch (const std::exception& error) {
         failed.error = libraryError(error);
         return failed;

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 /// The tracks, routes and waypoints of a library, in one SQLite file. Every function may be called on any
 /// thread and throws nothing but std::bad_alloc.
@@ -59,12 +60,39 @@ public:
     /// Deletes the listed entries @p ids with their points, in one transaction. A file of which anything was
     /// deleted can be imported again.
     Deletion deleteTracks(const std::vector<std::int64_t>& ids);
+    /// The same, keeping them aside so that restoreTracks can bring them back, up to the end of the process.
+    /// Of several removals of one @p removal, a number of the caller's, the last one counts.
+    Deletion deleteTracks(const std::vector<std::int64_t>& ids, std::int64_t removal);
+    struct Restoration {
+        std::vector<std::int64_t> restored; ///< under their former ids
+        std::string error;                  ///< for users; nothing was restored then
+    };
+    /// Brings back what the deletion of that number kept aside, once, as it was. What has meanwhile been
+    /// imported again from the same file is not brought back.
+    Restoration restoreTracks(std::int64_t removal);
+
+    /// Passes the positions of one listed entry's points, or waypoints, to @p visit, in the order of the
+    /// file, with true for the first of each segment. Reads through a connection of its own. Nothing after a
+    /// logged error.
+    void visitPositions(
+        std::int64_t track,
+        const std::function<void(double longitude, double latitude, bool beginsSegment)>& visit) const;
+    /// Metres along the points of one listed entry, those between two segments left out; nothing where it has
+    /// no two points in a row.
+    std::optional<double> lengthOfTrack(std::int64_t track) const;
+    /// For each of these instants the entry whose point is dated so; of several the one imported last.
+    /// Nothing where there is none.
+    std::vector<std::optional<std::int64_t>> tracksWithPointsAt(const std::vector<KTInstant>& times) const;
+    /// The imports of the hour before the latest one, as KTTrack::source numbers them, ascending.
+    std::vector<std::int64_t> recentSources() const;
 
     /// Reads one track file into the sink that it is given. Called on a thread of its own.
     using Read = std::function<TrackFileContent(TrackFileSink& sink)>;
     /// Imports what @p read reads of @p file, in one transaction: all of it or nothing. Content that is there
     /// already is not added again; of content that was deleted in part, the rest is replaced.
-    KTTrackImportResult importTracks(const std::filesystem::path& file, const Read& read);
+    /// Once @p stop is requested, nothing is imported, with an error that says so.
+    KTTrackImportResult importTracks(const std::filesystem::path& file, const Read& read,
+                                     const std::stop_token& stop = {});
     /// The earlier import of a file of this content, when all of it is still there.
     std::optional<KTTrackImportResult> importedContent(const std::string& hash) const;
     /// Whether a file of @p size bytes has been imported; false is reason enough not to hash a file

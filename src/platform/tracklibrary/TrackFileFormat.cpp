@@ -94,6 +94,13 @@ const TrackFileFormat* trackFileFormat(const std::filesystem::path& file) {
     return nullptr;
 }
 
+std::vector<std::string> trackFileExtensions() {
+    std::vector<std::string> extensions;
+    for (const FormatRow& row : formats())
+        extensions.insert(extensions.end(), row.extensions.begin(), row.extensions.end());
+    return extensions;
+}
+
 std::string trackFileFormatNames() {
     std::vector<std::string> names;
     for (const FormatRow& row : formats())

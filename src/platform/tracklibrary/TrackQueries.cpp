@@ -3,6 +3,8 @@
 #include "platform/tracklibrary/GPXWriter.h"
 #include "platform/tracklibrary/TrackDatabase.h"
 
+#include <algorithm>
+
 namespace {
 
 struct PointRange {
@@ -93,6 +95,62 @@ std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, st
         forEachPoint(database, range, [&](KTGeoPoint point) { points.push_back(std::move(point)); });
     }
     return segments;
+}
+
+void visitPositionsOfTrack(TrackDatabase& database, std::int64_t track,
+                           const std::function<void(double longitude, double latitude, bool)>& visit) {
+    // Coordinates with more digits than a double holds are texts.
+    auto find = database.statement("SELECT CAST(longitude AS REAL), CAST(latitude AS REAL) FROM point "
+                                   "WHERE id BETWEEN ? AND ? AND latitude IS NOT NULL ORDER BY id");
+    for (PointRange range : segmentRanges(database, track)) {
+        find->reset();
+        find->bind(1, range.first);
+        find->bind(2, range.last);
+        for (bool isFirst = true; find->executeStep(); isFirst = false)
+            visit(find->getColumn(0).getDouble(), find->getColumn(1).getDouble(), isFirst);
+    }
+    auto waypoints = database.statement("SELECT CAST(longitude AS REAL), CAST(latitude AS REAL) "
+                                        "FROM waypoint WHERE track = ? AND latitude IS NOT NULL ORDER BY id");
+    waypoints->bind(1, track);
+    while (waypoints->executeStep())
+        visit(waypoints->getColumn(0).getDouble(), waypoints->getColumn(1).getDouble(), true);
+}
+
+std::vector<std::optional<std::int64_t>> tracksOfPointsAt(TrackDatabase& database,
+                                                          const std::vector<KTInstant>& times) {
+    SQLite::Transaction sameState(database.connection);
+    struct Segment {
+        std::int64_t firstPoint, track;
+    };
+    std::vector<Segment> segments;
+    auto list = database.statement("SELECT first_point, track FROM segment ORDER BY first_point");
+    while (list->executeStep())
+        segments.push_back({list->getColumn(0).getInt64(), list->getColumn(1).getInt64()});
+
+    auto find = database.statement(
+        "SELECT id FROM point WHERE date = ? AND latitude IS NOT NULL ORDER BY id DESC LIMIT 1");
+    std::vector<std::optional<std::int64_t>> found;
+    for (KTInstant time : times) {
+        find->reset();
+        find->bind(1, static_cast<std::int64_t>(time.time_since_epoch().count()));
+        auto& track = found.emplace_back();
+        if (!find->executeStep())
+            continue;
+        auto after =
+            std::ranges::upper_bound(segments, find->getColumn(0).getInt64(), {}, &Segment::firstPoint);
+        if (after != segments.begin())
+            track = std::prev(after)->track;
+    }
+    return found;
+}
+
+std::vector<std::int64_t> listRecentSources(TrackDatabase& database) {
+    auto find = database.statement("SELECT id FROM source WHERE imported >= "
+                                   "(SELECT max(imported) FROM source) - 3600000 ORDER BY id");
+    std::vector<std::int64_t> sources;
+    while (find->executeStep())
+        sources.push_back(find->getColumn(0).getInt64());
+    return sources;
 }
 
 std::optional<std::int64_t> writeGPX(TrackDatabase& database, const std::vector<std::int64_t>& ids,

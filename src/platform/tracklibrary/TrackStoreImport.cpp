@@ -12,8 +12,10 @@ void bindHash(SQLite::Statement& statement, int index, const std::string& hash) 
 
 } // namespace
 
-TrackStoreImport::TrackStoreImport(TrackDatabase& target, const std::filesystem::path& path)
-    : database(target), points(target), fileName(KTValidUTF8(path.filename().string())) {
+TrackStoreImport::TrackStoreImport(TrackDatabase& target, const std::filesystem::path& path,
+                                   std::stop_token stopToken)
+    : database(target), stop(std::move(stopToken)), points(target),
+      fileName(KTValidUTF8(path.filename().string())) {
     auto insert = database.statement("INSERT INTO source(path, imported) VALUES(?, ?)");
     insert->bind(1, KTValidUTF8(path.string()));
     bindValue(*insert, 2, KTInstantNow());
@@ -55,6 +57,8 @@ std::int64_t TrackStoreImport::insertTrack(KTTrack::Kind kind) {
 }
 
 void TrackStoreImport::addPoint(TrackFilePoint&& point) {
+    if (stop.stop_requested())
+        throw TrackImportStopped();
     if (!currentTrack)
         currentTrack = insertTrack(track.kind);
     ++track.pointCount;
@@ -87,6 +91,8 @@ void TrackStoreImport::endTrack(std::string name) {
 }
 
 void TrackStoreImport::addWaypoint(TrackFileWaypoint&& waypoint) {
+    if (stop.stop_requested())
+        throw TrackImportStopped();
     if (waypointsTrack == 0)
         waypointsTrack = insertTrack(KTTrack::Kind::Waypoints);
     ++imported.waypointCount;
@@ -103,6 +109,7 @@ void TrackStoreImport::addWaypoint(TrackFileWaypoint&& waypoint) {
 bool TrackStoreImport::finish(std::int64_t size, const std::string& hash) {
     if (imported.trackIDs.empty())
         return false;
+    imported.source = source;
     points.flush();
     if (auto earlier = trackSourceWithHash(database, hash))
         removeSource(database, earlier->source);
@@ -129,6 +136,7 @@ std::optional<TrackSourceMatch> trackSourceWithHash(TrackDatabase& database, con
 KTTrackImportResult existingImport(TrackDatabase& database, std::int64_t source) {
     KTTrackImportResult result;
     result.alreadyImported = true;
+    result.source = source;
     auto find = database.statement(
         "SELECT id, kind, points, dated_points, waypoints FROM track WHERE source = ? ORDER BY id");
     find->bind(1, source);

@@ -4,12 +4,18 @@
 #include "platform/tracklibrary/TrackFileSink.h"
 #include "platform/tracklibrary/TrackPointInserter.h"
 
+#include <stop_token>
+
+/// Thrown by an import that was to stop.
+struct TrackImportStopped {};
+
 /// Writes one track file into the store, inside a transaction of the caller's. Every function throws
-/// SQLite::Exception; the caller then rolls back.
+/// SQLite::Exception, or TrackImportStopped once @p stopToken is requested; the caller then rolls back.
 class TrackStoreImport : public TrackFileSink {
 public:
     /// @p path names the file in the list and in an unnamed track's stead.
-    TrackStoreImport(TrackDatabase& target, const std::filesystem::path& path);
+    TrackStoreImport(TrackDatabase& target, const std::filesystem::path& path,
+                     std::stop_token stopToken = {});
 
     void beginTrack(KTTrack::Kind kind) override;
     void beginSegment() override;
@@ -28,6 +34,7 @@ private:
     void endSegment();
 
     TrackDatabase& database;
+    std::stop_token stop;
     TrackPointInserter points;
     std::string fileName;
     std::int64_t source = 0;

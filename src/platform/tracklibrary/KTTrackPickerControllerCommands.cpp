@@ -1,0 +1,123 @@
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
+#include "platform/concurrency/KTMainThread.h"
+#include "platform/desktop/KTItemReplacement.h"
+#include "platform/tracklibrary/KTTrackPickerController.h"
+
+#include <algorithm>
+#include <fstream>
+
+void KTTrackPickerController::importFilesAction() {
+    if (presenter == nullptr)
+        return;
+    presenter->presentFilePanel({.kind = KTFilePanel::Kind::OpenFiles,
+                                 .allowedFileTypes = KTTrackManager::validFileTypes(),
+                                 .directory = lastFolder,
+                                 .completion = [alive = std::weak_ptr(self)](const auto& paths) {
+                                     const auto controller = alive.lock();
+                                     if (!controller || paths.empty())
+                                         return;
+                                     (*controller)->lastFolder = paths.back().parent_path();
+                                     (*controller)->importFilesAtPaths(paths);
+                                 }});
+}
+
+void KTTrackPickerController::importFilesAtPaths(const KTTrackManager::Paths& files) {
+    manager.importFilesAtPaths(files, [alive = std::weak_ptr(self)](const auto& imports) {
+        const auto controller = alive.lock();
+        if (!controller)
+            return;
+        std::vector<std::string> problems;
+        for (const KTTrackManager::ImportOfFile& import : imports)
+            if (!import.result.succeeded())
+                problems.push_back(import.result.error);
+        if (problems.size() == 1)
+            (*controller)
+                ->presentProblems(KTLocalizedString("A track file could not be imported."), problems);
+        else if (!problems.empty())
+            (*controller)
+                ->presentProblems(
+                    KTStringWithFormat(KTLocalizedString("%d track files could not be imported."),
+                                       {std::to_string(problems.size())}),
+                    problems);
+    });
+}
+
+void KTTrackPickerController::presentProblems(std::string message, const std::vector<std::string>& problems) {
+    constexpr std::size_t kShown = 10;
+    std::vector<std::string> shown(problems.begin(), problems.begin() + std::min(problems.size(), kShown));
+    if (problems.size() > kShown)
+        shown.push_back(KTStringWithFormat(KTLocalizedString("… and %d more"),
+                                           {std::to_string(problems.size() - kShown)}));
+    if (presenter != nullptr)
+        presenter->presentAlert({.message = std::move(message),
+                                 .informativeText = KTJoin(shown, "\n"),
+                                 .buttons = {KTLocalizedString("OK")}});
+}
+
+std::vector<std::int64_t> KTTrackPickerController::trackIDsOf(const KTTrackSourceList::Records& records) {
+    std::vector<std::int64_t> ids;
+    for (const KTTrackRecord& record : records)
+        if (std::ranges::find(ids, record.trackID()) == ids.end())
+            ids.push_back(record.trackID());
+    return ids;
+}
+
+void KTTrackPickerController::removeSelectedAction() {
+    manager.removeTracks(
+        trackIDsOf(list.selectedTracksAndWaypoints()), undo,
+        [alive = std::weak_ptr(self)](const std::string& error) {
+            const auto controller = alive.lock();
+            if (controller && !error.empty())
+                (*controller)
+                    ->presentProblems(KTLocalizedString("The track library could not be changed."), {error});
+        });
+}
+
+void KTTrackPickerController::exportSelectedAction() {
+    const std::vector<std::int64_t> tracks = trackIDsOf(list.selectedTracksAndWaypoints());
+    if (presenter == nullptr || tracks.empty())
+        return;
+    const std::string name = list.selectedTracksAndWaypoints().front().name();
+    presenter->presentFilePanel({.kind = KTFilePanel::Kind::SaveFile,
+                                 .allowedFileTypes = {"gpx"},
+                                 .directory = lastFolder,
+                                 .proposedName = (name.empty() ? KTLocalizedString("Tracks") : name) + ".gpx",
+                                 .completion = [alive = std::weak_ptr(self), tracks](const auto& paths) {
+                                     if (const auto controller = alive.lock(); controller && !paths.empty())
+                                         (*controller)->writeGPX(tracks, paths.front());
+                                 }});
+}
+
+namespace {
+
+/// Writes beside the file and replaces it in one step; returns why that failed.
+std::string writeFileOfTracks(const KTTrackStore& store, const std::vector<std::int64_t>& tracks,
+                              const std::filesystem::path& file) {
+    const KTItemReplacement replacement(file);
+    if (replacement.error())
+        return *replacement.error();
+    std::ofstream out(replacement.temporaryItem(), std::ios::binary);
+    if (std::string error = store.exportGPX(tracks, out); !error.empty())
+        return error;
+    out.close();
+    if (!out)
+        return KTLocalizedString("The tracks could not be written.");
+    return KTReplaceItem(file, replacement.temporaryItem()).value_or("");
+}
+
+} // namespace
+
+void KTTrackPickerController::writeGPX(const std::vector<std::int64_t>& tracks,
+                                       const std::filesystem::path& file) {
+    exports.addOperationWithBlock([this, tracks, file, alive = std::weak_ptr(self)] {
+        const std::string error = writeFileOfTracks(manager.store(), tracks, file);
+        if (error.empty())
+            return;
+        KTPerformOnMainThread([alive, error] {
+            if (const auto controller = alive.lock())
+                (*controller)
+                    ->presentProblems(KTLocalizedString("The tracks could not be exported."), {error});
+        });
+    });
+}

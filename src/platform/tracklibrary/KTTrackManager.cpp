@@ -2,6 +2,7 @@
 
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
+#include "platform/tracklibrary/TrackFileFormat.h"
 #include "platform/tracklibrary/TrackFileReading.h"
 
 #include <algorithm>

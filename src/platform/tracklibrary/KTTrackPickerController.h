@@ -24,7 +24,7 @@ public:
     void setPresenter(KTPresenter* whoAsks) { presenter = whoAsks; }
     KTPresenter* trackPresenter() const { return presenter; }
     /// Brings removed tracks back.
-    void setUndoManager(std::shared_ptr<KTUndoManager> manager) { undo = std::move(manager); }
+    void setUndoManager(std::shared_ptr<KTUndoManager> undoManager) { undo = std::move(undoManager); }
 
     /// "sourceLists": all of the library first, then the smart files in the order in which they were added.
     const std::vector<SmartFile>& sourceLists() const { return entries; }

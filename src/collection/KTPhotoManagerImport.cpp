@@ -23,6 +23,7 @@ class KTPhotoManager::ImportRun {
 public:
     explicit ImportRun(ImportHandlers importHandlers) : handlers(std::move(importHandlers)) {}
     ~ImportRun() {
+        readAhead.reset(); // waits for its threads: at the end of an import nothing is being read any more
         if (handlers.didEnd)
             KTPerformOnMainThread(std::move(handlers.didEnd));
     }

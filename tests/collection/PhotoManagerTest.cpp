@@ -165,8 +165,12 @@ TEST_F(PhotoManager, ListsWhatIsUnsavedAndForgetsWhatLeaves) {
     const auto observation = recordInto(events);
     photos[1]->setValueForKey("caption", "new");
     photos[0]->setValueForKey("caption", "new");
-    std::jthread([&] { photos[2]->setValueForKey("title", "from another thread"); }).detach();
-    ASSERT_TRUE(runEventLoopUntil([&] { return manager.unsavedPhotos()->size() == 3; }));
+    std::atomic<bool> isEdited = false;
+    const std::jthread editor([&] {
+        photos[2]->setValueForKey("title", "from another thread");
+        isEdited = true;
+    });
+    ASSERT_TRUE(runEventLoopUntil([&] { return isEdited.load(); }));
     EXPECT_EQ(namesOf(manager.unsavedPhotos()), "b.jpg a.jpg c.jpg");
     photos[0]->setValueForKey("caption", KTValue());
     EXPECT_EQ(namesOf(manager.unsavedPhotos()), "b.jpg c.jpg");

@@ -36,6 +36,14 @@ KTArrangedPhotos::Snapshot KTArrangedPhotos::selected() const {
     return selectedCopy;
 }
 
+KTArrangedPhotos::Photos KTArrangedPhotos::arrangedAt(const Indexes& indexes) const {
+    Photos photos;
+    for (const std::size_t index : indexes)
+        if (index < loaded.size())
+            photos.push_back(descriptors.empty() ? loaded[index] : order[index].photo);
+    return photos;
+}
+
 void KTArrangedPhotos::forgetSnapshots() {
     loadedCopy = arrangedCopy = selectedCopy = nullptr;
 }

@@ -36,6 +36,8 @@ public:
     /// Photos of equal rank stay in load order; no descriptors give load order.
     void sort(std::vector<KTSortDescriptor> newDescriptors);
     Snapshot arranged() const;
+    /// Those at these places; cheaper than a snapshot for a few. Places that do not exist are left out.
+    Photos arrangedAt(const Indexes& indexes) const;
 
     // Selection
     void select(const Photos& wanted); ///< exactly these, as far as they are there

@@ -24,6 +24,12 @@ void KTPhotoController::forward(const KTChange& change) {
             announce(key, setting, {});
 }
 
+void KTPhotoController::selectNext() {
+    const Indexes selected = selectedPhotoIndexes();
+    if (!selected.empty() && selected.back() + 1 < manager.numberOfPhotos())
+        manager.setSelectedPhotoIndexes({selected.back() + 1});
+}
+
 KTPhotoController::Photos KTPhotoController::stillLoaded(const Photos& photos) const {
     Photos present;
     std::ranges::copy_if(photos, std::back_inserter(present),

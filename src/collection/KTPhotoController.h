@@ -42,8 +42,11 @@ public:
 
     KTPhotoManager& photoManager() const { return manager; }
     Snapshot photos() const { return manager.arrangedPhotos(); }
+    Photos photosAtIndexes(const Indexes& indexes) const { return manager.arrangedPhotosAtIndexes(indexes); }
     Snapshot selectedPhotos() const { return manager.selectedPhotos(); }
     Indexes selectedPhotoIndexes() const { return manager.selectedPhotoIndexes(); }
+    /// Selects the photo after the last selected one, alone; at the end, or without selection, does nothing.
+    void selectNext();
 
     /// Moves the photos at these places of the arranged order before the one at @p toIndex (the end when
     /// there is none), as a block, and selects them. What the user then sees becomes the load order, without

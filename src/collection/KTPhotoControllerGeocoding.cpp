@@ -1,8 +1,7 @@
 #include "collection/KTBatchOperationController.h"
+#include "collection/KTGeocodingProgress.h"
 #include "collection/KTPhotoController.h"
 #include "photo/KTLinkablePoint.h"
-#include "platform/common/KTLocalizedString.h"
-#include "platform/common/KTText.h"
 #include "platform/gazetteer/KTGazetteer.h"
 
 struct KTPhotoController::Place {
@@ -10,18 +9,6 @@ struct KTPhotoController::Place {
     const char* longitudeKey;
     void (KTPhoto::*writeNames)(const std::shared_ptr<KTLinkablePoint>&);
 };
-
-namespace {
-
-/// The format of the progress line, in which the two numbers are still to be filled in.
-std::string progressDescription(const std::string& reverseGeocoder) {
-    const std::string fetching =
-        KTStringWithFormat(KTLocalizedString("Fetching the location description from %@…"),
-                           {KTEscapedForFormat(reverseGeocoder)});
-    return KTStringWithFormat("%@. %@", {KTLocalizedString("Reverse geocoding photo %u of %u"), fetching});
-}
-
-} // namespace
 
 void KTPhotoController::reverseGeocodeLocationCreatedPhotos(const Photos& photos) {
     reverseGeocode(photos,
@@ -57,5 +44,5 @@ void KTPhotoController::reverseGeocode(const Photos& photos, const Place& place)
     }
     if (!steps.empty())
         batchOperationController->batchProcessOperations(
-            std::move(steps), progressDescription(gazetteer.selectedReverseGeocoder()->name()));
+            std::move(steps), KTGeocodingProgressDescription("Reverse geocoding photo %u of %u"));
 }

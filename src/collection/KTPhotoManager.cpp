@@ -52,6 +52,11 @@ KTPhotoManager::Snapshot KTPhotoManager::arrangedPhotos() const {
     return list.arranged();
 }
 
+KTPhotoManager::Photos KTPhotoManager::arrangedPhotosAtIndexes(const Indexes& indexes) const {
+    std::lock_guard guard(mutex);
+    return list.arrangedAt(indexes);
+}
+
 KTPhotoManager::Snapshot KTPhotoManager::selectedPhotos() const {
     std::lock_guard guard(mutex);
     return list.selected();

@@ -2,6 +2,8 @@
 
 #include "platform/geodesy/KTGeodesy.h"
 
+#include <limits>
+
 namespace {
 
 using enum KTGeotaggingVerdict;
@@ -21,20 +23,18 @@ constexpr Row kVerdicts[] = {
     {true, true, true, {{TimeAndDistanceFailure, DistanceCriteriaFailure}, {TimeCriteriaFailure, Accepted}}},
 };
 
-/// Metres between the neighbours; not-a-number when a coordinate is missing.
-double distanceBetween(const KTGeoPoint& left, const KTGeoPoint& right) {
-    auto degrees = [](const std::optional<KTDecimal>& coordinate) {
-        return coordinate.value_or(KTDecimal::notANumber()).toDouble();
-    };
-    return KTEarthDistance(degrees(left.longitude), degrees(left.latitude), degrees(right.longitude),
-                           degrees(right.latitude));
-}
-
-bool isWithin(double seconds, KTInstant instant, const std::optional<KTGeoPoint>& point) {
+bool isWithin(double seconds, KTInstant instant, const std::optional<KTTrackNeighbour>& point) {
     return point && point->date && KTSecondsBetween(instant, *point->date) < seconds;
 }
 
+double degrees(const std::optional<KTDecimal>& coordinate) {
+    return coordinate ? coordinate->toDouble() : std::numeric_limits<double>::quiet_NaN();
+}
+
 } // namespace
+
+KTTrackNeighbour::KTTrackNeighbour(const KTGeoPoint& point)
+    : date(point.date), longitude(degrees(point.longitude)), latitude(degrees(point.latitude)) {}
 
 KTGeotaggingVerdict KTVerdictForCriteria(const KTGeotaggingCriteria& criteria, bool distancePasses,
                                          bool timePasses) {
@@ -56,7 +56,8 @@ KTGeotaggingVerdict KTJudgePhoto(const KTGeotaggingCriteria& criteria, bool hasP
         return NoDateTimeOriginal;
     const auto& [preceding, next] = neighbours;
     const bool distancePasses = criteria.shouldUseDistanceRestriction && preceding && next &&
-                                distanceBetween(*preceding, *next) <= criteria.distanceRestriction;
+                                KTEarthDistance(preceding->longitude, preceding->latitude, next->longitude,
+                                                next->latitude) <= criteria.distanceRestriction;
     const bool timePasses = isWithin(criteria.timeRestriction, *dateTimeOriginal, preceding) ||
                             isWithin(criteria.timeRestriction, *dateTimeOriginal, next);
     return KTVerdictForCriteria(criteria, distancePasses, timePasses);

@@ -12,10 +12,18 @@ enum class KTGeotaggingVerdict {
     TimeAndDistanceFailure,
 };
 
+/// A track point as the criteria see it: its decimals are made doubles once, photos are judged often.
+struct KTTrackNeighbour {
+    KTTrackNeighbour(const KTGeoPoint& point);
+
+    std::optional<KTInstant> date;
+    double longitude, latitude; ///< degrees; not-a-number where the point has none
+};
+
 /// The track points around a photo's capture instant, as the track library's two searches give them.
 struct KTTrackNeighbours {
-    std::optional<KTGeoPoint> preceding; ///< the last one before the instant
-    std::optional<KTGeoPoint> next;      ///< the first one at or after it
+    std::optional<KTTrackNeighbour> preceding; ///< the last one before the instant
+    std::optional<KTTrackNeighbour> next;      ///< the first one at or after it
 };
 
 /// The verdict where it is known which restrictions are met; one that is off is not looked at.

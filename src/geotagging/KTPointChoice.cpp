@@ -4,9 +4,9 @@
 
 namespace {
 
-/// Seconds from @p instant to @p point; endless for a point without a date.
-double gap(KTInstant instant, const KTGeoPoint& point) {
-    return point.date ? KTSecondsBetween(instant, *point.date) : std::numeric_limits<double>::infinity();
+/// Seconds from @p instant to the point of @p date; endless for one without a date.
+double gap(KTInstant instant, const std::optional<KTInstant>& date) {
+    return date ? KTSecondsBetween(instant, *date) : std::numeric_limits<double>::infinity();
 }
 
 KTDecimal weighted(const KTDecimal& preceding, const KTDecimal& next, const KTDecimal& weight) {
@@ -21,8 +21,8 @@ std::optional<KTPointChoice> KTChoosePoint(const KTGeotaggingCriteria& criteria,
     if (preceding && next) {
         if (criteria.shouldUseTimeWeightedAverage)
             return KTPointChoice::TimeWeighted;
-        return gap(instant, *preceding) <= gap(instant, *next) ? KTPointChoice::Preceding
-                                                               : KTPointChoice::Next;
+        return gap(instant, preceding->date) <= gap(instant, next->date) ? KTPointChoice::Preceding
+                                                                         : KTPointChoice::Next;
     }
     if (preceding)
         return KTPointChoice::Preceding;
@@ -34,7 +34,7 @@ std::optional<KTGeoPoint> KTTimeWeightedPosition(const KTGeoPoint& preceding, co
     for (const KTGeoPoint* point : {&preceding, &next})
         if (!point->date || !point->latitude || !point->longitude)
             return std::nullopt;
-    const double before = gap(instant, preceding), after = gap(instant, next);
+    const double before = gap(instant, preceding.date), after = gap(instant, next.date);
     const KTDecimal weight =
         before + after > 0 ? KTDecimal::fromDouble(before / (before + after)) : KTDecimal();
 

@@ -1,14 +1,10 @@
 #include "cli/GeotagCommand.h"
 
-#include "cli/GeotagReport.h"
-
-#include "geotagging/KTPointChoice.h"
 #include "metadata/KTMetadataFieldManager.h"
-#include "photo/KTPhotoChangeTracker.h"
+#include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/gazetteer/KTGazetteer.h"
-#include "platform/tracklibrary/KTTrackPointSearch.h"
 
 #include <CLI/CLI.hpp>
 
@@ -19,13 +15,25 @@ void override(std::string_view key, const KTValue& value) {
     KTUserDefaults::standardUserDefaults().setValueForThisRun(key, value);
 }
 
+/// The computation in which every photo is judged by what is known of it in the end.
+KTGeotagger::Computation computationOf(const KTGeotagger& geotagger, CommandCollection& collection) {
+    const std::size_t photos = collection.photoManager().numberOfPhotos();
+    collection.runUntil([&] {
+        const auto computation = geotagger.computation();
+        return computation->fates.size() == photos && computation->photosBeingLinked == 0;
+    });
+    return geotagger.computation();
+}
+
 } // namespace
 
 void GeotagCommand::applyOptions() {
     if (!timeZone.empty()) {
         zone = KTTimeZone::fromText(timeZone);
         if (!zone)
-            throw UsageError{"\"" + timeZone + "\" is not a time zone: +02:00, Z or Area/City is expected"};
+            throw UsageError{KTStringWithFormat(
+                KTLocalizedString("\"%@\" is not a time zone: +02:00, Z or Area/City is expected"),
+                {timeZone})};
         override("defaultAssumedTimeZoneOffset", std::int64_t(zone->secondsFromGMT(KTInstantNow())));
     }
     if (maximumTime)
@@ -58,20 +66,31 @@ int GeotagCommand::run(CommandSession& session) {
     KTTrackManager* library = session.tracks();
     if (library == nullptr || !importTracks(session))
         return kExitSomethingFailed;
-    CommandSession::noteInterruptions();
-    const KTTrackPointSearch search({&library->store(), &runTracks->store()});
-    const auto criteria = KTGeotaggingCriteria::criteriaFromDefaults(KTUserDefaults::standardUserDefaults());
-    const auto files = session.photoFiles(paths);
-    const KTGazetteer::Batch batch(KTGazetteer::sharedGazetteer());
-    GeotagReport report(session, criteria, dryRun);
-    for (std::size_t i = 0; i < files.size() && !CommandSession::isInterrupted(); ++i) {
-        session.showProgress(dryRun ? "Loading image %lu of %lu" : "Geotagging photo %u of %u", i + 1,
-                             files.size());
-        GeotagOutcome outcome = geotag(files[i], criteria, search);
-        session.endProgress();
-        report.add(outcome);
+    CommandCollection collection(session);
+    std::vector<GeotagFile> files;
+    collection.importPhotos(paths, [&](const auto& file, const auto& photo, const auto& operations) {
+        files.push_back({file, photo, operations});
+    });
+
+    KTGeotagger geotagger(collection.photoController(), {library, runTracks.get()},
+                          collection.batchOperationController());
+    geotagger.setup();
+    KTPhotoManager& photos = collection.photoManager();
+    photos.setSelectedPhotos(*photos.photos());
+    geotagger.setShouldActivelyGeotag(true);
+    const auto computation = computationOf(geotagger, collection);
+    noteZones(*computation);
+    const KTGazetteer::Batch places(KTGazetteer::sharedGazetteer());
+    if (dryRun) {
+        askForPlaces(*computation);
+    } else if (!CommandSession::isInterrupted()) {
+        geotagger.batchSave();
+        collection.runUntil([&] { return !geotagger.isBatchOperationInProgress(); });
     }
-    session.endProgress();
+    GeotagReport report(session, dryRun);
+    report.begin(files, *computation);
+    if (!dryRun && !CommandSession::isInterrupted())
+        save(collection, *computation, report);
     report.finish();
     warnAboutZoneChanges(session);
     return session.exitStatus();
@@ -93,104 +112,87 @@ bool GeotagCommand::importTracks(CommandSession& session) {
     return !session.hasFailed();
 }
 
-GeotagOutcome GeotagCommand::geotag(const std::filesystem::path& file, const KTGeotaggingCriteria& criteria,
-                                    const KTTrackPointSearch& search) {
-    GeotagOutcome outcome;
-    outcome.path = file;
-    const auto photo = KTPhoto::initWithFile(file, {}, nullptr, {.log = &outcome.operations});
-    outcome.wasRead = photo && photo->isValid();
-    if (outcome.wasRead)
-        judge(photo, outcome, criteria, search);
-    if (photo)
-        outcome.operations = photo->photoOperations();
-    return outcome;
+void GeotagCommand::save(CommandCollection& collection, const KTGeotaggingComputation& computation,
+                         GeotagReport& report) {
+    KTPhotoManager::Photos geotagged;
+    for (const auto& point : computation.batchPointArray)
+        geotagged.push_back(point->photo());
+    KTBatchOperationController& batches = collection.batchOperationController();
+    const KTObservable::Observation progress = batches.observe([&](const KTChange& change) {
+        // Steps that were cancelled count as done.
+        if (!change.isPrior && change.key == "batchProgressValue" && !CommandSession::isInterrupted())
+            report.printUntilSave(batches.batchProgressValue());
+    });
+    collection.savePhotos(geotagged);
 }
 
-void GeotagCommand::judge(const std::shared_ptr<KTPhoto>& photo, GeotagOutcome& outcome,
-                          const KTGeotaggingCriteria& criteria, const KTTrackPointSearch& search) {
-    const auto instant = photo->dateTimeOriginal();
-    if (instant) {
-        outcome.neighbours.preceding = search.pointPrecedingTime(*instant);
-        outcome.neighbours.next = search.pointFollowingTime(*instant);
-        outcome.instant = instant;
-        noteZone(*instant);
-    }
-    outcome.verdict = KTJudgePhoto(criteria, photo->isGeotagged(), instant, outcome.neighbours);
-    if (outcome.verdict == KTGeotaggingVerdict::Accepted && instant) {
-        outcome.choice = KTChoosePoint(criteria, *instant, outcome.neighbours);
-        outcome.point = pointOf(outcome, photo);
-    }
-    if (outcome.point && photo->geotaggingWantsPlaceNames())
-        outcome.point->waitUntilLocationDescriptionFetchIsCompleted();
-    if (outcome.point && !dryRun) {
-        const KTPhotoChangeTracker tracker(*photo);
-        photo->setLocationCreatedFromLinkablePoint(outcome.point);
-        photo->saveWithBackupToFolder(saving.backupFolder());
-        outcome.saved = !photo->hasUnsavedChanges();
-    }
-}
-
-std::shared_ptr<KTLinkablePoint> GeotagCommand::pointOf(const GeotagOutcome& outcome,
-                                                        std::shared_ptr<KTPhoto> photo) {
-    const auto& [preceding, next] = outcome.neighbours;
-    if (outcome.choice == KTPointChoice::Preceding)
-        return KTLinkablePoint::initWithGeoPoint(preceding, KTLinkablePointTypePreceding, std::move(photo));
-    if (outcome.choice == KTPointChoice::Next)
-        return KTLinkablePoint::initWithGeoPoint(next, KTLinkablePointTypeNext, std::move(photo));
-    const auto between = outcome.choice ? KTTimeWeightedPosition(*preceding, *next, *outcome.instant)
-                                        : std::optional<KTGeoPoint>();
-    return between
-               ? KTLinkablePoint::initWithGeoPoint(between, KTLinkablePointTypeTimeWeighted, std::move(photo))
-               : nullptr;
+/// What a dry run tells of places; a real one fetches them as it writes.
+void GeotagCommand::askForPlaces(const KTGeotaggingComputation& computation) {
+    const auto wantsPlaces = [](const auto& point) { return point->photo()->geotaggingWantsPlaceNames(); };
+    for (const auto& point : computation.batchPointArray)
+        if (wantsPlaces(point))
+            point->fetchLocationDescription();
+    for (const auto& point : computation.batchPointArray)
+        if (wantsPlaces(point) && !CommandSession::isInterrupted())
+            point->waitUntilLocationDescriptionFetchIsCompleted();
 }
 
 /// The assumed zone is one fixed offset. Where a region was named whose clocks stood elsewhere at the time of
 /// some photos, the user must hear of it.
-void GeotagCommand::noteZone(KTInstant instant) {
-    const int assumed =
-        KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone().secondsFromGMT(instant);
-    if (zone && zone->secondsFromGMT(instant) != assumed) {
-        ++photosAtAnotherOffset;
-        otherOffset = zone->offsetText(instant);
+void GeotagCommand::noteZones(const KTGeotaggingComputation& computation) {
+    const KTTimeZone assumed = KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone();
+    for (const KTGeotaggingFate& fate : computation.fates) {
+        const auto instant = fate.links ? fate.links->instant : std::nullopt;
+        if (zone && instant && zone->secondsFromGMT(*instant) != assumed.secondsFromGMT(*instant)) {
+            ++photosAtAnotherOffset;
+            otherOffset = zone->offsetText(*instant);
+        }
     }
 }
 
 void GeotagCommand::warnAboutZoneChanges(const CommandSession& session) const {
     if (photosAtAnotherOffset == 0)
         return;
-    session.message(
-        KTStringWithFormat("%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the "
-                           "photos were taken; give the offset itself to match those",
-                           {zone->name(), zone->offsetText(KTInstantNow()), otherOffset,
-                            std::to_string(photosAtAnotherOffset)}));
+    session.message(KTStringWithFormat(
+        KTLocalizedString("%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the "
+                          "photos were taken; give the offset itself to match those"),
+        {zone->name(), zone->offsetText(KTInstantNow()), otherOffset,
+         std::to_string(photosAtAnotherOffset)}));
 }
 
 void addGeotagCommand(CLI::App& app, CommandList& commands) {
     auto command = std::make_unique<GeotagCommand>();
-    CLI::App* parser = app.add_subcommand("geotag", "Match photos against tracks and write their positions");
+    CLI::App* parser = app.add_subcommand(
+        "geotag", KTLocalizedString("Match photos against tracks and write their positions"));
     parser
-        ->add_option("--track", command->tracks, "A track file for this run, beside the library; repeatable")
+        ->add_option("--track", command->tracks,
+                     KTLocalizedString("A track file for this run, beside the library; repeatable"))
         ->type_name("FILE")
         ->expected(1)
         ->take_all()
         ->allow_extra_args(false);
     parser->add_option("--time-zone", command->timeZone,
-                       "Zone of the cameras' clocks: +02:00, Z or Area/City");
+                       KTLocalizedString("Zone of the cameras' clocks: +02:00, Z or Area/City"));
     parser
         ->add_option("--max-time", command->maximumTime,
-                     "A neighbouring point must be nearer than this (300)")
+                     KTLocalizedString("A neighbouring point must be nearer than this (300)"))
         ->type_name("SECONDS");
-    parser->add_flag("--no-time", command->noTime, "No time restriction");
-    parser->add_option("--max-distance", command->maximumDistance, "The neighbours must lie no farther apart")
+    parser->add_flag("--no-time", command->noTime, KTLocalizedString("No time restriction"));
+    parser
+        ->add_option("--max-distance", command->maximumDistance,
+                     KTLocalizedString("The neighbours must lie no farther apart"))
         ->type_name("METRES");
-    parser->add_flag("--no-distance", command->noDistance, "No distance restriction");
-    parser->add_flag("--and", command->bothCriteria, "Both criteria must hold, not either");
-    parser->add_flag("--time-weighted", command->timeWeighted, "Interpolate between the neighbours");
-    parser->add_flag("--overwrite", command->overwrite, "Also photos that already carry a location");
-    parser->add_flag("--no-place", command->noPlace, "No city, state, country");
-    parser->add_flag("--no-altitude", command->noAltitude, "Leave the altitude alone");
+    parser->add_flag("--no-distance", command->noDistance, KTLocalizedString("No distance restriction"));
+    parser->add_flag("--and", command->bothCriteria,
+                     KTLocalizedString("Both criteria must hold, not either"));
+    parser->add_flag("--time-weighted", command->timeWeighted,
+                     KTLocalizedString("Interpolate between the neighbours"));
+    parser->add_flag("--overwrite", command->overwrite,
+                     KTLocalizedString("Also photos that already carry a location"));
+    parser->add_flag("--no-place", command->noPlace, KTLocalizedString("No city, state, country"));
+    parser->add_flag("--no-altitude", command->noAltitude, KTLocalizedString("Leave the altitude alone"));
     command->saving.addTo(*parser);
-    parser->add_flag("--dry-run", command->dryRun, "Judge and print, write nothing");
-    parser->add_option("PATH", command->paths, "Photos, sidecars or folders")->required();
+    parser->add_flag("--dry-run", command->dryRun, KTLocalizedString("Judge and print, write nothing"));
+    parser->add_option("PATH", command->paths, KTLocalizedString("Photos, sidecars or folders"))->required();
     commands.push_back({parser, std::move(command)});
 }

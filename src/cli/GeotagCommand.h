@@ -1,9 +1,9 @@
 #pragma once
 #include "cli/Command.h"
+#include "cli/CommandCollection.h"
 #include "cli/GeotagReport.h"
 #include "cli/SaveOptions.h"
-
-class KTTrackPointSearch;
+#include "geotagging/KTGeotagger.h"
 
 /// The main job: photos, tracks, criteria in; positions written and an account of every photo out.
 class GeotagCommand : public Command {
@@ -20,14 +20,10 @@ public:
 private:
     void applyOptions();
     bool importTracks(CommandSession& session);
-    /// The photo's fate; writes it unless this is a dry run.
-    GeotagOutcome geotag(const std::filesystem::path& file, const KTGeotaggingCriteria& criteria,
-                         const KTTrackPointSearch& search);
-    void judge(const std::shared_ptr<KTPhoto>& photo, GeotagOutcome& outcome,
-               const KTGeotaggingCriteria& criteria, const KTTrackPointSearch& search);
-    static std::shared_ptr<KTLinkablePoint> pointOf(const GeotagOutcome& outcome,
-                                                    std::shared_ptr<KTPhoto> photo);
-    void noteZone(KTInstant instant);
+    static void save(CommandCollection& collection, const KTGeotaggingComputation& computation,
+                     GeotagReport& report);
+    static void askForPlaces(const KTGeotaggingComputation& computation);
+    void noteZones(const KTGeotaggingComputation& computation);
     void warnAboutZoneChanges(const CommandSession& session) const;
 
     std::unique_ptr<KTTrackManager> runTracks;

@@ -1,12 +1,15 @@
 #include "cli/GeotagReport.h"
 
+#include "photo/KTLinkablePoint.h"
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
 #include "platform/common/KTUnitConverter.h"
 #include "platform/gazetteer/KTGazetteer.h"
 
 std::string_view GeotagOutcome::name() const {
-    if (!wasRead)
+    if (fate == nullptr)
         return "unreadable";
-    switch (verdict) {
+    switch (fate->verdict) {
     case KTGeotaggingVerdict::PreviouslyGeotagged:
         return "alreadyGeotagged";
     case KTGeotaggingVerdict::NoDateTimeOriginal:
@@ -18,21 +21,32 @@ std::string_view GeotagOutcome::name() const {
     case KTGeotaggingVerdict::TimeAndDistanceFailure:
         return "timeAndDistance";
     default:
-        return point ? "geotagged" : "noPoint";
+        return point() ? "geotagged" : "noPoint";
     }
 }
 
-KTValue GeotagOutcome::pointName() const {
-    if (!point)
-        return {};
-    return *choice == KTPointChoice::Preceding ? "preceding"
-           : *choice == KTPointChoice::Next    ? "next"
-                                               : "timeWeighted";
+std::shared_ptr<KTLinkablePoint> GeotagOutcome::point() const {
+    return fate != nullptr ? fate->point() : nullptr;
 }
 
-GeotagReport::GeotagReport(CommandSession& commandSession, const KTGeotaggingCriteria& usedCriteria,
-                           bool isDryRun)
-    : session(commandSession), criteria(usedCriteria), dryRun(isDryRun) {
+KTValue GeotagOutcome::pointName() const {
+    if (!point())
+        return {};
+    return *fate->choice == KTPointChoice::Preceding ? "preceding"
+           : *fate->choice == KTPointChoice::Next    ? "next"
+                                                     : "timeWeighted";
+}
+
+bool GeotagOutcome::wasSavingTried() const {
+    return isSaved() || fate->photo->photoOperations().size() > operationsBefore;
+}
+
+std::vector<KTPhotoOperation> GeotagOutcome::operations() const {
+    return fate != nullptr ? fate->photo->photoOperations() : file->operations;
+}
+
+GeotagReport::GeotagReport(CommandSession& commandSession, bool isDryRun)
+    : session(commandSession), dryRun(isDryRun) {
     if (!session.json)
         return;
     json.emplace();
@@ -41,76 +55,119 @@ GeotagReport::GeotagReport(CommandSession& commandSession, const KTGeotaggingCri
     json->beginArray();
 }
 
-void GeotagReport::add(const GeotagOutcome& outcome) {
-    if (outcome.wasRead)
-        counters.count(outcome.verdict, outcome.point ? outcome.choice : std::nullopt);
-    else
-        ++unreadable;
-    if (!outcome.wasRead || (outcome.point && !dryRun && !outcome.saved))
+/// A file that was read and is not in the collection was given twice, under two names.
+void GeotagReport::begin(const std::vector<GeotagFile>& files, const KTGeotaggingComputation& computation) {
+    computed = &computation;
+    std::unordered_map<const KTPhoto*, const KTGeotaggingFate*> fates;
+    for (const KTGeotaggingFate& fate : computation.fates)
+        fates.emplace(fate.photo.get(), &fate);
+    for (const GeotagFile& file : files) {
+        const KTPhotoManager::Photo& photo = file.photo;
+        if (const auto fate = fates.find(photo.get()); fate != fates.end())
+            outcomes.push_back(
+                {&file, fate->second, photo->hasUnsavedChanges(), photo->photoOperations().size()});
+        else if (!photo || !photo->isValid())
+            outcomes.push_back({&file});
+    }
+}
+
+void GeotagReport::printUntilSave(std::uint64_t saves) {
+    for (; printed < outcomes.size(); ++printed) {
+        if (outcomes[printed].isToBeSaved && printedSaves++ == saves) {
+            --printedSaves;
+            return;
+        }
+        print(outcomes[printed]);
+    }
+}
+
+bool GeotagReport::wasLeftOut(const GeotagOutcome& outcome) const {
+    return CommandSession::isInterrupted() && outcome.point() && !dryRun &&
+           !(outcome.isToBeSaved && outcome.wasSavingTried());
+}
+
+void GeotagReport::print(const GeotagOutcome& outcome) {
+    session.endProgress();
+    const bool isUnsaved = outcome.point() && !dryRun && !outcome.isSaved();
+    unreadable += outcome.fate == nullptr ? 1 : 0;
+    unsaved += isUnsaved ? 1 : 0;
+    if (outcome.fate == nullptr || isUnsaved)
         session.setFailed();
-    unsaved += outcome.point && !dryRun && !outcome.saved ? 1 : 0;
-    for (const KTPhotoOperation& operation : outcome.operations)
-        if (operation.resultType() == KTPhotoOperation::Failure ||
-            (operation.resultType() == KTPhotoOperation::Warning && outcome.point))
-            session.message(outcome.path.string() + ": " + operation.resultDescription());
-    if (dryRun && outcome.point && outcome.point->requestFailure())
-        session.message(outcome.path.string() + ": " + *outcome.point->requestFailure());
+    printMessages(outcome);
     if (json)
         printJSON(outcome);
     else
         printText(outcome);
 }
 
+void GeotagReport::printMessages(const GeotagOutcome& outcome) const {
+    const auto point = outcome.point();
+    const std::string file = outcome.file->path.string() + ": ";
+    for (const KTPhotoOperation& operation : outcome.operations())
+        if (operation.resultType() == KTPhotoOperation::Failure ||
+            (operation.resultType() == KTPhotoOperation::Warning && point))
+            session.message(file + operation.resultDescription());
+    if (dryRun && point && point->requestFailure())
+        session.message(file + *point->requestFailure());
+}
+
 void GeotagReport::printJSON(const GeotagOutcome& outcome) {
-    auto gap = [&](const std::optional<KTGeoPoint>& neighbour) -> KTValue {
-        if (!neighbour || !neighbour->date || !outcome.instant)
+    const auto point = outcome.point();
+    const KTLinkedPoints* links = outcome.fate != nullptr ? outcome.fate->links.get() : nullptr;
+    auto gap = [&](const std::optional<KTTrackNeighbour>& neighbour) -> KTValue {
+        if (!neighbour || !neighbour->date || !links->instant)
             return {};
-        return KTDecimal::fromDouble(KTSecondsBetween(*outcome.instant, *neighbour->date));
+        return KTDecimal::fromDouble(KTSecondsBetween(*links->instant, *neighbour->date));
     };
     json->beginObject();
-    json->member("path", outcome.path.string());
+    json->member("path", outcome.file->path.string());
     json->member("outcome", outcome.name());
     json->member("point", outcome.pointName());
-    if (outcome.point) {
-        json->member("latitude", outcome.point->latitude());
-        json->member("longitude", outcome.point->longitude());
-        json->member("altitude", outcome.point->elevation());
-        json->member("gpsDateTime", outcome.point->date());
+    if (point) {
+        json->member("latitude", point->latitude());
+        json->member("longitude", point->longitude());
+        json->member("altitude", point->elevation());
+        json->member("gpsDateTime", point->date());
     }
-    json->member("secondsToPreceding", gap(outcome.neighbours.preceding));
-    json->member("secondsToNext", gap(outcome.neighbours.next));
-    if (outcome.point) {
-        const KTValue::Dictionary place = outcome.point->locationDictionary();
+    if (links != nullptr) {
+        json->member("secondsToPreceding", gap(links->neighbours.preceding));
+        json->member("secondsToNext", gap(links->neighbours.next));
+    }
+    if (point) {
+        const KTValue::Dictionary place = point->locationDictionary();
         for (std::string_view key : {"city", "state", "country"})
             if (const auto name = place.find(key); name != place.end())
                 json->member(key, name->second);
+        if (!dryRun)
+            json->member("saved", outcome.isSaved());
     }
-    if (!dryRun && outcome.point)
-        json->member("saved", outcome.saved);
-    json->member("operations", outcome.operations);
+    json->member("operations", outcome.operations());
     json->endObject();
 }
 
 void GeotagReport::printText(const GeotagOutcome& outcome) const {
-    std::string line = outcome.path.string() + ": " + std::string(outcome.name());
-    if (outcome.point) {
+    std::string line = outcome.file->path.string() + ": " + std::string(outcome.name());
+    if (const auto point = outcome.point()) {
         auto text = [](const std::optional<KTDecimal>& number) { return number ? number->toText() : "?"; };
-        line += " " + text(outcome.point->latitude()) + ", " + text(outcome.point->longitude());
-        if (outcome.point->elevation())
-            line += ", " + KTUnitConverter::sharedUnitConverter().heightDescriptionFromMeters(
-                               *outcome.point->elevation());
+        line += " " + text(point->latitude()) + ", " + text(point->longitude());
+        if (point->elevation())
+            line += ", " +
+                    KTUnitConverter::sharedUnitConverter().heightDescriptionFromMeters(*point->elevation());
         line += " (" + outcome.pointName().description() + ")";
-        const std::string place =
-            KTGazetteer::locationDescriptionFromDictionary(outcome.point->locationDictionary());
-        if (!place.empty() && !outcome.point->requestFailure())
+        const std::string place = KTGazetteer::locationDescriptionFromDictionary(point->locationDictionary());
+        if (!place.empty() && !point->requestFailure())
             line += " " + place;
-        line += dryRun ? " [dry run]" : outcome.saved ? "" : " NOT SAVED";
+        line += dryRun ? " [dry run]" : outcome.isSaved() ? "" : " NOT SAVED";
     }
     std::printf("%s\n", line.c_str());
 }
 
 void GeotagReport::finish() {
-    const KTGeotaggingSummary summary = KTGeotaggingSummary::summaryOf(counters, criteria);
+    for (; printed < outcomes.size(); ++printed)
+        if (!wasLeftOut(outcomes[printed]))
+            print(outcomes[printed]);
+    const KTGeotaggingSummary summary =
+        KTGeotaggingSummary::summaryOf(computed->counters, computed->criteria);
     if (json)
         printJSONSummary(summary);
     else
@@ -133,6 +190,7 @@ void GeotagReport::printJSONSummary(const KTGeotaggingSummary& summary) {
     text("alreadyGeotaggedDescription", summary.alreadyGeotaggedDescription);
     json->endObject();
 
+    const KTGeotaggingCounters& counters = computed->counters;
     const std::pair<std::string_view, std::size_t> counts[] = {
         {"totalSuccesses", counters.totalSuccesses},
         {"totalPreceding", counters.totalPreceding},
@@ -156,8 +214,10 @@ void GeotagReport::printTextSummary(const KTGeotaggingSummary& summary) const {
           &summary.failureDescription, &summary.failureTip, &summary.alreadyGeotaggedDescription})
         if (!text->empty())
             std::printf("%s\n", text->c_str());
-    if (unreadable != 0)
-        std::printf("%zu could not be read.\n", unreadable);
-    if (unsaved != 0)
-        std::printf("%zu could not be saved.\n", unsaved);
+    const auto printCount = [](std::size_t count, const char* text) {
+        if (count != 0)
+            std::printf("%s\n", KTStringWithFormat(KTLocalizedString(text), {std::to_string(count)}).c_str());
+    };
+    printCount(unreadable, "%d could not be read.");
+    printCount(unsaved, "%d could not be saved.");
 }

@@ -4,6 +4,7 @@
 #include "platform/defaults/KTUserDefaults.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 
 void SaveOptions::addTo(CLI::App& parser) {
     parser
@@ -29,8 +30,4 @@ void SaveOptions::apply() const {
     }
     if (sidecarStyle)
         defaults.setValueForThisRun("defaultXMPSidecarStyle", std::int64_t(*sidecarStyle));
-}
-
-std::optional<std::filesystem::path> SaveOptions::backupFolder() const {
-    return folder.empty() ? std::nullopt : std::optional<std::filesystem::path>(folder);
 }

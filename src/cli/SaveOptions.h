@@ -1,5 +1,4 @@
 #pragma once
-#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -14,8 +13,6 @@ public:
     void addTo(CLI::App& parser);
     /// Lets the settings that the options stand for hold for this run.
     void apply() const;
-    /// Where backups go; nothing for none.
-    std::optional<std::filesystem::path> backupFolder() const;
 
 private:
     std::string folder;

@@ -279,6 +279,41 @@ TEST_F(CommandLine, SaysWhatIsWrongAndTouchesNothing) {
     EXPECT_EQ(run({"--version"}).status, 0);
 }
 
+TEST_F(CommandLine, CtrlCEndsTheBatchAfterThePhotoBeingWritten) {
+    ASSERT_EQ(run({"demo", "trip"}).status, 0);
+    std::filesystem::create_directory(folder / "backup");
+    const std::filesystem::path first = folder / "trip/photos/IMG_0101.jpg";
+    bool wasInterruptedMidway = false;
+    for (int round = 0; round < 20 && !wasInterruptedMidway; ++round) {
+        const std::string before = contentOf(first);
+        QProcess process;
+        prepare(process, geotagDemo({"--overwrite", "--backup", "backup",
+                                     round % 2 == 0 ? "--time-weighted" : "--no-distance"}));
+        process.start();
+        process.waitForStarted();
+        while (process.state() == QProcess::Running && contentOf(first) == before)
+            process.waitForFinished(1);
+        if (process.state() == QProcess::Running)
+            ::kill(pid_t(process.processId()), SIGINT);
+        process.waitForFinished();
+        const Result result = {process.exitCode(), process.readAllStandardOutput().toStdString(), ""};
+        EXPECT_TRUE(result.status == 130 || result.status == 0) << result.status;
+        const QJsonArray photos = result.json()["photos"].toArray();
+        std::size_t written = 0;
+        for (const QJsonValue photo : photos) {
+            EXPECT_NE(photo["saved"], false);
+            written += photo["saved"].toBool() ? 1 : 0;
+        }
+        wasInterruptedMidway = result.status == 130 && written < 9;
+        EXPECT_GT(written, 0U) << "the first one was written";
+        const std::filesystem::path backup = *std::filesystem::directory_iterator(folder / "backup");
+        EXPECT_EQ(contentOf(backup / "IMG_0101.jpg"), before);
+        std::filesystem::remove_all(folder / "backup");
+        std::filesystem::create_directory(folder / "backup");
+    }
+    EXPECT_TRUE(wasInterruptedMidway);
+}
+
 TEST_F(CommandLine, KilledAtAnyMomentItLeavesEveryPhotoOldOrNewAndTheNextRunCarriesOn) {
     ASSERT_EQ(run({"demo", "trip"}).status, 0);
     auto photos = [&] {

@@ -2,7 +2,7 @@
 
 #include "metadata/KTMetadataFieldManager.h"
 #include "metadata/KTTagAccess.h"
-#include "platform/common/KTCalendar.h"
+#include "platform/common/KTDateArithmetic.h"
 #include "platform/common/KTTimeZoneManager.h"
 
 #include <regex>
@@ -27,10 +27,6 @@ const KTDateComponents* dateOf(const KTValue& value) {
     return components && components->year != KTDateComponents::kUndefined ? components : nullptr;
 }
 
-bool isComplete(const KTDateComponents& date) {
-    return std::ranges::all_of(date.unitFlags(), std::identity());
-}
-
 /// The fraction of a second and the zone at the end of the existing text, after its first @p length
 /// characters; nothing where something else stands there, as no file would take it behind the new text.
 std::string suffixOf(const KTValue& existing, std::size_t length) {
@@ -45,7 +41,7 @@ std::string suffixOf(const KTValue& existing, std::size_t length) {
 KTValue withSuffix(const std::optional<std::string>& text, const KTDateComponents* date,
                    const std::string& suffix) {
     // A zone behind a partial date would make it unreadable.
-    return text ? KTValue(*text + (isComplete(*date) ? suffix : std::string())) : KTValue();
+    return text ? KTValue(*text + (KTIsCompleteDate(*date) ? suffix : std::string())) : KTValue();
 }
 
 KTValue labelled(const KTValue& value, const KTTimeZone& zone) {
@@ -137,9 +133,9 @@ void KTMetadataDateTimeOriginalField::modifyiPhotoChangesDictionary(KTTagDiction
     // A library knows complete dates alone.
     auto textOf = [](const KTValue& date) {
         auto components = dateOf(date);
-        return components && isComplete(*components) ? KTValue(components->xmpString()) : KTValue();
+        return components && KTIsCompleteDate(*components) ? KTValue(components->xmpString()) : KTValue();
     };
-    if (dateOf(value) && !isComplete(*dateOf(value)))
+    if (dateOf(value) && !KTIsCompleteDate(*dateOf(value)))
         return changes.remove("date");
     KTTagDictionary current{{"date", textOf(valueFromiPhotoDictionary(record))}};
     addValue(textOf(value), KTValueType::Text, "date", changes, current);

@@ -130,7 +130,10 @@ KTValue KTMetadataImageDirectionField::trueNorthFromMagneticNorth(const KTDecima
     if (!latitude || !longitude)
         return {};
     KTValue date = read("dateTimeOriginalComponents");
-    auto instant = date.components() ? KTInstantOfComponents(*date.components()) : std::nullopt;
+    // The declination changes so slowly that the beginning of a partial date will do.
+    auto instant = date.components() && date.components()->timeZone
+                       ? KTCalendar(*date.components()->timeZone).dateFromComponents(*date.components())
+                       : std::nullopt;
     auto declination = KTDeclinationForLatitudeLongitude(latitude->toDouble(), longitude->toDouble(),
                                                          instant.value_or(KTInstantNow()));
     if (!declination)

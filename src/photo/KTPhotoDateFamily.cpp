@@ -1,5 +1,7 @@
 #include "photo/KTPhotoDateFamily.h"
 
+#include "platform/common/KTDateArithmetic.h"
+
 namespace {
 
 constexpr KTPhotoDateFamily::Keys kKeys[] = {
@@ -8,15 +10,6 @@ constexpr KTPhotoDateFamily::Keys kKeys[] = {
     {"dateTimeDigitizedComponents", "dateTimeDigitizedTimeZone", "dateTimeDigitizedShift",
      "dateTimeDigitized", "Digitized Date Change", "com.Brightfold.DateTimeDigitizedSynchronizationQueue"},
 };
-
-/// @p complete with only those units that @p pattern has.
-void keepUnits(KTDateComponents& complete, const KTDateComponents& pattern) {
-    using Unit = std::int64_t KTDateComponents::*;
-    for (Unit unit : {&KTDateComponents::year, &KTDateComponents::month, &KTDateComponents::day,
-                      &KTDateComponents::hour, &KTDateComponents::minute, &KTDateComponents::second})
-        if (pattern.*unit == KTDateComponents::kUndefined)
-            complete.*unit = KTDateComponents::kUndefined;
-}
 
 } // namespace
 
@@ -69,13 +62,7 @@ KTPhotoDateFamily::Reading KTPhotoDateFamily::storeShifted(const KTDateComponent
             current.shift = seconds;
         } else if (present->timeZone && present->calendar) {
             const KTCalendar calendar(*present->timeZone, *present->calendar);
-            current = {std::nullopt, seconds};
-            if (auto instant = calendar.dateFromComponents(saved)) {
-                const auto shift =
-                    std::chrono::round<std::chrono::milliseconds>(std::chrono::duration<double>(seconds));
-                current.components = calendar.componentsFromDate(*instant + shift);
-                keepUnits(*current.components, saved);
-            }
+            current = {KTDateByAddingSeconds(saved, seconds, calendar), seconds};
         }
         return before;
     });

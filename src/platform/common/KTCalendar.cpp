@@ -1,5 +1,7 @@
 #include "platform/common/KTCalendar.h"
 
+#include "platform/common/KTDateArithmetic.h"
+
 std::optional<KTInstant> KTCalendar::dateFromComponents(const KTDateComponents& components) const {
     using namespace std::chrono;
     constexpr auto unset = KTDateComponents::kUndefined;
@@ -32,8 +34,9 @@ KTDateComponents KTCalendar::componentsFromDate(KTInstant instant) const {
     return result;
 }
 
+/// A date that leaves a part open, be it the seconds, names no instant, and none is made up for it.
 std::optional<KTInstant> KTInstantOfComponents(const KTDateComponents& components) {
-    if (!components.calendar || !components.timeZone)
+    if (!KTIsCompleteDate(components) || !components.calendar || !components.timeZone)
         return std::nullopt;
     return KTCalendar(*components.timeZone, *components.calendar).dateFromComponents(components);
 }

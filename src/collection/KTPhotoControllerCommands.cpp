@@ -1,10 +1,10 @@
 #include "collection/KTPhotoController.h"
+#include "collection/KTPhotoEditing.h"
 #include "collection/KTPhotoFileList.h"
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
-#include "platform/undo/KTUndoManager.h"
 
 #include <algorithm>
 
@@ -103,19 +103,9 @@ void KTPhotoController::synchronizeMetadataAction(const Photos& photos) {
         photo->synchronizeMetadataSources();
 }
 
-/// Makes a change of all photos one undo step, which edits of the last or the next second do not join.
 void KTPhotoController::edit(const Photos& photos, std::string actionName,
                              const std::function<void(KTPhoto&)>& change) {
-    const auto undo = manager.undoManager();
-    if (undo)
-        undo->beginUndoGrouping(std::move(actionName));
-    for (const auto& photo : photos) {
-        photo->invalidateLastRecordedUndoKey();
-        change(*photo);
-        photo->invalidateLastRecordedUndoKey();
-    }
-    if (undo)
-        undo->endUndoGrouping();
+    KTEditPhotos(manager, photos, std::move(actionName), change);
 }
 
 void KTPhotoController::copyEventFromIPhotoAction(const Photos& photos) {

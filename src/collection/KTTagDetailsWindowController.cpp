@@ -16,7 +16,7 @@ void KTTagDetailsWindowController::setup() {
     observer = std::make_unique<SelectedPhotoObserver>(
         manager, isDictionary,
         SelectedPhotoObserver::Handlers{[this](const auto&) { updateBindings(); },
-                                        [this](const auto&) { updateBindings(); }});
+                                        [this](const auto&, std::string_view) { updateBindings(); }});
 }
 
 void KTTagDetailsWindowController::tearDown() {

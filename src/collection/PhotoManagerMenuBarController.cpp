@@ -19,7 +19,7 @@ void PhotoManagerMenuBarController::setup() {
             count(*photo);
         publish();
     };
-    auto didChange = [this](const KTPhoto& photo) {
+    auto didChange = [this](const KTPhoto& photo, std::string_view) {
         count(photo);
         publish();
     };

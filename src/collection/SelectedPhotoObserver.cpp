@@ -33,19 +33,22 @@ KTObservable::Observation SelectedPhotoObserver::observe(KTPhoto& photo) {
     return photo.observe([follows = isFollowed, weak = std::weak_ptr(self), &photo](const KTChange& change) {
         if (change.isPrior || !follows(change.key))
             return;
-        auto tell = [weak, changed = &photo] {
-            if (const auto alive = weak.lock())
-                (*alive)->photoDidChange(changed);
+        auto tell = [](const std::weak_ptr<SelectedPhotoObserver*>& observer, const KTPhoto* changed,
+                       std::string_view key) {
+            if (const auto alive = observer.lock())
+                (*alive)->photoDidChange(changed, key);
         };
         if (KTMainThread::isCurrent())
-            tell();
+            tell(weak, &photo, change.key);
         else
-            KTPerformOnMainThread(tell);
+            KTPerformOnMainThread([tell, weak, changed = &photo, key = std::string(change.key)] {
+                tell(weak, changed, key);
+            });
     });
 }
 
 /// The photo may be no longer selected, or gone.
-void SelectedPhotoObserver::photoDidChange(const KTPhoto* photo) {
+void SelectedPhotoObserver::photoDidChange(const KTPhoto* photo, std::string_view key) {
     if (observations.contains(photo))
-        handlers.didChange(*photo);
+        handlers.didChange(*photo, key);
 }

@@ -10,7 +10,7 @@ public:
         std::function<void(const KTPhotoManager::Photos& selected)> didSelect;
         /// Called after a selected photo has announced a followed key: at once where it did so on the main
         /// thread, else soon.
-        std::function<void(const KTPhoto& photo)> didChange;
+        std::function<void(const KTPhoto& photo, std::string_view key)> didChange;
     };
     using IsFollowed = bool (*)(std::string_view key); ///< asked on any thread
 
@@ -20,7 +20,7 @@ public:
 private:
     void update();
     KTObservable::Observation observe(KTPhoto& photo);
-    void photoDidChange(const KTPhoto* photo);
+    void photoDidChange(const KTPhoto* photo, std::string_view key);
 
     KTPhotoManager& manager;
     const IsFollowed isFollowed;

@@ -31,6 +31,7 @@ void addSetCommand(CLI::App& app, CommandList& commands);
 void addGeotagCommand(CLI::App& app, CommandList& commands);
 void addPlaceCommand(CLI::App& app, CommandList& commands);
 void addZoneCommand(CLI::App& app, CommandList& commands);
+void addDateCommands(CLI::App& app, CommandList& commands); // shift, copy-date, set-date
 void addTracksCommands(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
 

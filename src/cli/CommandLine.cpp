@@ -81,6 +81,7 @@ int runCommandLine(int argc, char** argv) {
     addGeotagCommand(app, commands);
     addPlaceCommand(app, commands);
     addZoneCommand(app, commands);
+    addDateCommands(app, commands);
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
     try {

@@ -45,7 +45,9 @@ KTValue valueFromText(const KTMetadataField& field, std::string_view text) {
             KTMetadataFieldManager::sharedMetadataFieldManager().assumedTimeZone());
         if (field.propertyType() == KTValueType::DateComponents)
             return *components;
-        return KTInstantOfComponents(*components);
+        if (const auto instant = KTInstantOfComponents(*components))
+            return *instant;
+        throw complain("a complete date and time is expected");
     }
     default:
         throw complain("it cannot be set");

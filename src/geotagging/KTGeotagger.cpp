@@ -38,8 +38,9 @@ KTGeotagger::~KTGeotagger() {
 void KTGeotagger::setup() {
     selectionObserver = std::make_unique<SelectedPhotoObserver>(
         photoController.photoManager(), isFollowed,
-        SelectedPhotoObserver::Handlers{[this](const Photos&) { updateGeotagsSource->mergeData(); },
-                                        [this](const KTPhoto&) { requestUpdateAfterEdit(); }});
+        SelectedPhotoObserver::Handlers{
+            [this](const Photos&) { updateGeotagsSource->mergeData(); },
+            [this](const KTPhoto&, std::string_view) { requestUpdateAfterEdit(); }});
     controllerObservation = photoController.observe([this](const KTChange& change) {
         if (!change.isPrior && change.key == "isBatchGeotagRemovalInProgress")
             requestUpdateAfterEdit();

@@ -112,7 +112,7 @@ TEST_F(PhotoDates, APartialDateIsShiftedInItsOwnUnits) {
     photo->setDateTimeOriginalShift(31 * 86400.0);
     EXPECT_EQ(original(photo), "2014:06");
     photo->setDateTimeOriginalComponents(components("2015", KTTimeZone::utc()));
-    EXPECT_EQ(instant(photo->dateTimeOriginal()), "2015-01-01T00:00:00Z");
+    EXPECT_EQ(instant(photo->dateTimeOriginal()), "none") << "a year is no instant";
 }
 
 TEST_F(PhotoDates, AnnouncesADateInFourKeysOutsideIn) {

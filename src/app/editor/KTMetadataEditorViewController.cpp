@@ -127,7 +127,8 @@ KTMetadataEditorViewController::Group KTMetadataEditorViewController::addGroup()
     return group;
 }
 
-void KTMetadataEditorViewController::removeGroup(const Group& group) {
+/// By value: the caller may name an element of the list.
+void KTMetadataEditorViewController::removeGroup(Group group) {
     changeGroups([&](Groups& groups) { std::erase(groups, group); });
 }
 

@@ -43,7 +43,7 @@ public:
     void renameField(KTMetadataField& field, std::string name);
     /// A new group, "Untitled", at the end.
     Group addGroup();
-    void removeGroup(const Group& group);
+    void removeGroup(Group group);
     void moveGroup(std::size_t from, std::size_t toIndex);
     /// Adds the catalogue's field of that key; false for an unknown one, and for one without editor.
     bool addField(std::string_view key, KTMetadataGroup& toGroup, std::size_t atIndex);

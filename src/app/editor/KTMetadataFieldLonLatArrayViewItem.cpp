@@ -31,26 +31,26 @@ KTMetadataFieldArrayViewItem::Texts KTMetadataFieldLonLatArrayViewItem::editingT
     return texts;
 }
 
+/// One number first: "47,5" is a latitude here, not a position.
 KTFieldText::Parsed KTMetadataFieldLonLatArrayViewItem::parse(const Typed& typed) const {
     const auto key = keys();
-    for (const Half half : {First, Second})
-        if (const auto pair = KTCoordinates::fromText(typed.texts[half]); pair && typed.isTyped[half])
-            return valuesFor({{key[First], pair->latitude}, {key[Second], pair->longitude}});
     KTValue::Dictionary values;
     for (const Half half : {First, Second}) {
+        const std::string& text = typed.texts[half];
         if (!typed.isTyped[half])
             continue;
-        if (KTTrimmed(typed.texts[half]).empty()) {
+        const auto degrees =
+            half == First ? KTCoordinates::latitudeFromText(text) : KTCoordinates::longitudeFromText(text);
+        if (degrees)
+            values.emplace(key[half], *degrees);
+        else if (KTTrimmed(text).empty())
             values.emplace(key[half], KTValue::null());
-            continue;
-        }
-        const auto degrees = half == First ? KTCoordinates::latitudeFromText(typed.texts[half])
-                                           : KTCoordinates::longitudeFromText(typed.texts[half]);
-        if (!degrees)
+        else if (const auto pair = KTCoordinates::fromText(text))
+            return valuesFor({{key[First], pair->latitude}, {key[Second], pair->longitude}});
+        else
             return {nullptr, half == First
                                  ? KTLocalizedString("This is no latitude, such as 46.05108 or 46° 3′ N.")
                                  : KTLocalizedString("This is no longitude, such as 14.50513 or 14° 30′ E.")};
-        values.emplace(key[half], *degrees);
     }
     return valuesFor(std::move(values));
 }

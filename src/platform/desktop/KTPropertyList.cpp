@@ -111,6 +111,22 @@ KTValue valueOf(plist_t node, int level) {
     }
 }
 
+/// Whether lists and dictionaries of an XML property list are nested deeper than any of ours: the library
+/// would follow them until the stack ends.
+bool isTooDeep(std::string_view xml) {
+    int level = 0;
+    for (auto place = xml.find('<'); place != std::string_view::npos; place = xml.find('<', place + 1)) {
+        const std::string_view tag = xml.substr(place + 1, xml.find('>', place) - place - 1);
+        if (tag.starts_with("/array") || tag.starts_with("/dict"))
+            --level;
+        else if ((tag.starts_with("array") || tag.starts_with("dict")) && !tag.ends_with('/'))
+            ++level;
+        if (level > kDeepest)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 KTValue KTValueFromPropertyList(const std::filesystem::path& file) {
@@ -120,6 +136,8 @@ KTValue KTValueFromPropertyList(const std::filesystem::path& file) {
         return {};
     std::ifstream stream(file, std::ios::binary);
     const std::string content{std::istreambuf_iterator<char>(stream), {}};
+    if (isTooDeep(content))
+        return {};
     plist_t root = nullptr;
     plist_from_memory(content.data(), static_cast<std::uint32_t>(content.size()), &root);
     const Node owned(root);

@@ -24,8 +24,8 @@ KTBatchOperationController::~KTBatchOperationController() {
 }
 
 void KTBatchOperationController::batchProcessOperations(Operations operations, std::string withDescription,
-                                                        Completion completionBlock) {
-    Job job{std::move(operations), std::move(withDescription), std::move(completionBlock)};
+                                                        Completion completionBlock, std::size_t atATime) {
+    Job job{std::move(operations), std::move(withDescription), std::move(completionBlock), atATime};
     if (isInProgress || isEnding)
         waiting.push_back(std::move(job));
     else
@@ -64,6 +64,7 @@ void KTBatchOperationController::start(Job job) {
                         (*alive)->noteOperationCount(number, unfinished);
                 });
         });
+    operationQueue.setMaxConcurrentOperationCount(running.atATime);
     operationQueue.addOperations(std::move(running.operations));
 }
 

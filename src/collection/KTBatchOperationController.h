@@ -5,8 +5,8 @@
 
 class KTUndoManager;
 
-/// Runs long jobs made of one step a photo, one step at a time and never on the main thread, while a sheet
-/// shows where the job stands and lets the user stop the rest. All edits of a job are one undo step.
+/// Runs long jobs made of one step a photo, one step after the other and never on the main thread, while a
+/// sheet shows where the job stands and lets the user stop the rest. All edits of a job are one undo step.
 ///
 /// A job opens the undo group, runs its steps in order, waits for what they registered for undo, closes the
 /// group, and runs its completion. A job that is started while another one runs follows it. Observable under
@@ -24,9 +24,10 @@ public:
 
     /// Begins a job and returns at once; a job without operations ends at once. @p withDescription is the
     /// progress text, with two "%u" for the steps done and their total; empty for "Saving to photo %u of %u".
-    /// @p completionBlock runs exactly once, also when the job was stopped.
+    /// @p completionBlock runs exactly once, also when the job was stopped. Steps that are made to overlap
+    /// may be @p atATime.
     void batchProcessOperations(Operations operations, std::string withDescription = {},
-                                Completion completionBlock = {});
+                                Completion completionBlock = {}, std::size_t atATime = 1);
     /// Lets the running step of the present job finish and drops its others.
     void abortBatch();
 
@@ -41,6 +42,7 @@ private:
         Operations operations;
         std::string progressDescription;
         Completion completionBlock;
+        std::size_t atATime = 1;
     };
 
     void start(Job job);

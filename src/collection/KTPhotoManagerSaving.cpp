@@ -1,5 +1,6 @@
 #include "collection/KTBatchOperationController.h"
 #include "collection/KTPhotoManager.h"
+#include "photo/KTPhotoSaveStep.h"
 #include "photo/KTiPhotoTool.h"
 #include "platform/defaults/KTUserDefaults.h"
 
@@ -27,21 +28,24 @@ void KTPhotoManager::savePhotos(const Photos& photos, std::function<void()> didS
     const bool syncs =
         std::ranges::any_of(photos, [](const Photo& photo) { return photo->shouldUseIPhotoProperties(); });
     const auto backupFolder = makeBackupFolder();
-    std::vector<std::shared_ptr<KTOperation>> saves;
-    for (const Photo& photo : photos)
-        if (photo->hasUnsavedChanges())
-            saves.push_back(std::make_shared<KTOperation>(
-                [photo, backupFolder] { photo->saveWithBackupToFolder(backupFolder); }));
+    Photos changed;
+    std::unordered_set<const KTPhoto*> known; // saves overlap, but never two of one photo
+    std::ranges::copy_if(photos, std::back_inserter(changed), [&](const Photo& photo) {
+        return photo->hasUnsavedChanges() && known.insert(photo.get()).second;
+    });
     if (syncs)
         KTiPhotoTool::sharediPhotoTool().setObservationIsPaused(true);
-    batches->batchProcessOperations(std::move(saves), {}, [this, photos, syncs, didSave] {
-        if (syncs)
-            KTiPhotoTool::sharediPhotoTool().setObservationIsPaused(false);
-        didChange(KTPhotoControllerDidWriteUnsavedChanges);
-        logNewOperations(photos);
-        if (didSave)
-            didSave();
-    });
+    batches->batchProcessOperations(
+        KTPhotoSaveStep::stepsForPhotos(changed, backupFolder), {},
+        [this, photos, syncs, didSave] {
+            if (syncs)
+                KTiPhotoTool::sharediPhotoTool().setObservationIsPaused(false);
+            didChange(KTPhotoControllerDidWriteUnsavedChanges);
+            logNewOperations(photos);
+            if (didSave)
+                didSave();
+        },
+        KTPhotoSaveStep::kOverlapping);
 }
 
 void KTPhotoManager::logNewOperations(const Photos& saved) {

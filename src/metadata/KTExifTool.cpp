@@ -27,8 +27,11 @@ constexpr const char* kWalk = R"perl(
 sub waymarkTags {
     my ($tool, $info) = @_;
     my @triples;
-    foreach my $tag ($tool->GetTagList($info)) {
-        my $name = Image::ExifTool::GetTagName($tag);
+    my (%triples, @groups);
+    # In the order of the file, and then by group in the order in which the groups appear: that of
+    # Sort => 'Group0', which asks for each group once more.
+    foreach my $tag ($tool->GetTagList($info, 'File')) {
+        my ($name) = $tag =~ /^(\S+)/; # without the number of a duplicate
         my $value;
         if ($name eq 'LensID') {
             $value = $tool->GetValue('LensID', 'PrintConv');
@@ -36,9 +39,11 @@ sub waymarkTags {
             next if $name eq 'DateTimeOriginal' and $tool->GetGroup($tag, 1) eq 'IFD0';
             $value = $$info{$tag};
         }
-        push @triples, scalar($tool->GetGroup($tag, 0)), $name, $value;
+        my $group = scalar($tool->GetGroup($tag, 0));
+        push @groups, $group unless $triples{$group};
+        push @{$triples{$group}}, $group, $name, $value;
     }
-    return \@triples;
+    return [map { @{$triples{$_}} } @groups];
 }
 )perl";
 
@@ -74,7 +79,7 @@ KTPhotoOperation failedWrite(const std::filesystem::path& file, std::string fail
 } // namespace
 
 KTExifTool& KTExifTool::sharedExifTool() {
-    static KTExifTool shared;
+    static KTExifTool& shared = *new KTExifTool; // goes with the process: taking it down would only take time
     return shared;
 }
 

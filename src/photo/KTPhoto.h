@@ -2,6 +2,7 @@
 #include "photo/KTMetadataSource.h"
 #include "photo/KTPhotoDateFamily.h"
 #include "photo/KTPhotoOpening.h"
+#include "photo/KTPhotoSaving.h"
 #include "photo/KTSaveTargets.h"
 #include "platform/cartography/KTSpatialObject.h"
 #include "platform/desktop/KTFileDates.h"
@@ -206,7 +207,8 @@ public:
     /// @p backupFolder when one is given. A file that another program has changed since it was read keeps
     /// what that program wrote; only the pending tags go into it, and a warning says so. Outcomes are in the
     /// log; what was not written stays pending. Any thread, one save of a photo at a time.
-    void saveWithBackupToFolder(const std::optional<std::filesystem::path>& backupFolder);
+    void saveWithBackupToFolder(const std::optional<std::filesystem::path>& backupFolder,
+                                const KTPhotoSaving& saving = {});
     /// First step of every save: hands the edits of a picture that a library keeps in an edited version on to
     /// the original beside it.
     void saveToIPhotoOriginalIfNecessaryWithBackupToFolder(
@@ -324,8 +326,9 @@ private:
     enum class WriteResult { Written, Failed, Stopped, ChangedMeanwhile };
     using BackupFolder = std::optional<std::filesystem::path>;
     KTSaveTargets targets() const;
-    bool saveFiles(const BackupFolder& backupFolder);
-    WriteResult saveFile(KTMetadataSource::Kind kind, const BackupFolder& backupFolder);
+    bool saveFiles(const BackupFolder& backupFolder, const KTPhotoSaving& saving);
+    WriteResult saveFile(KTMetadataSource::Kind kind, const BackupFolder& backupFolder,
+                         const KTPhotoSaving& saving);
     void stampWithDate(std::string_view key, const KTValue& date);
     bool backUpImage(const BackupFolder& folder, std::filesystem::path& backup);
     WriteRequest imageRequest() const;

@@ -28,11 +28,17 @@ KTPhotoOperation write(const KTTagDictionary& values, const fs::path& temporary,
 /// of
 /// @p given that it does not hold.
 KTTagDictionary prove(KTPhotoOperation& operation, KTMetadataSource& written, const fs::path& temporary,
-                      const KTTagDictionary& given) {
+                      const KTTagDictionary& given, const KTPhotoSaving& saving) {
     if (!operation.operationDidSucceed)
         return {};
+    if (saving.didWrite)
+        saving.didWrite();
+    KTExifTool* const own = saving.proofTool ? saving.proofTool() : nullptr;
     std::vector<KTTagDictionary::Entry> tags;
-    const KTPhotoOperation proof = written.read(KTExifTool::sharedExifTool(), temporary, &tags);
+    const KTPhotoOperation proof =
+        written.read(own != nullptr ? *own : KTExifTool::sharedExifTool(), temporary, &tags);
+    if (saving.didProve)
+        saving.didProve();
     if (!proof.operationDidSucceed) {
         operation.operationDidSucceed = false;
         operation.failureReason = 1;
@@ -70,7 +76,7 @@ KTPhoto::WriteResult KTPhoto::writeAndReplace(const WriteRequest& request) {
     KTPhotoOperation operation = write(request.written, temporary, request.contentFrom, editsSidecar);
     operation.url = request.target;
     KTMetadataSource written(request.kind);
-    const KTTagDictionary notWritten = prove(operation, written, temporary, request.written);
+    const KTTagDictionary notWritten = prove(operation, written, temporary, request.written, *request.saving);
     KTTagDictionary tags = *written.saved; // in its place, not in that of the temporary item
     tags.set("File:Directory", source(KTMetadataSource::Image).saved->valueForKey("File:Directory"));
     written.saved = std::make_shared<const KTTagDictionary>(std::move(tags));

@@ -1,22 +1,19 @@
 #include "photo/KTPhotoReadAhead.h"
 
+#include "metadata/KTExifToolLease.h"
+#include "platform/concurrency/KTThreadHeap.h"
+
 namespace {
 
-constexpr std::size_t kFilesThatRepayAnInterpreter = 16;
-constexpr std::size_t kLead = 16; // photos that may wait to be asked for
-
-unsigned threadsFor(std::size_t files, unsigned wanted) {
-    if (wanted != 0)
-        return wanted;
-    const std::size_t useful = 1 + files / kFilesThatRepayAnInterpreter;
-    return static_cast<unsigned>(std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, useful));
-}
+constexpr std::size_t kLead = 32; // photos that may wait to be asked for
+constexpr std::size_t kMemoryOfAnInterpreter = std::size_t(48) << 20;
 
 } // namespace
 
 KTPhotoReadAhead::KTPhotoReadAhead(std::vector<std::filesystem::path> photoFiles, unsigned threads)
     : files(std::move(photoFiles)) {
-    for (unsigned i = 0; i < threadsFor(files.size(), threads); ++i)
+    const unsigned count = threads != 0 ? threads : KTExifToolLease::usefulBridges(files.size());
+    for (unsigned i = 0; i < count; ++i)
         readers.emplace_back([this, i] { readPhotos(i == 0); });
 }
 
@@ -27,8 +24,11 @@ KTPhotoReadAhead::~KTPhotoReadAhead() {
 }
 
 void KTPhotoReadAhead::readPhotos(bool withSharedTool) {
-    std::unique_ptr<KTExifTool> own = withSharedTool ? nullptr : std::make_unique<KTExifTool>();
-    KTExifTool& tool = withSharedTool ? KTExifTool::sharedExifTool() : *own;
+    KTReserveThreadHeap(kMemoryOfAnInterpreter);
+    std::optional<KTExifToolLease> own;
+    if (!withSharedTool)
+        own.emplace();
+    KTExifTool& tool = own ? **own : KTExifTool::sharedExifTool();
     std::unique_lock lock(mutex);
     for (;;) {
         changed.wait(lock, [this] { return stopping || begun == files.size() || begun < handedOut + kLead; });

@@ -9,7 +9,7 @@
 /// handed out may have been read before an earlier one was dealt with. One thread asks.
 class KTPhotoReadAhead {
 public:
-    /// @p threads 0 takes one a core, and fewer where few files would not repay an interpreter.
+    /// @p threads 0 takes as many as are useful.
     explicit KTPhotoReadAhead(std::vector<std::filesystem::path> photoFiles, unsigned threads = 0);
     /// Waits for the photos that are being read; no further one is begun.
     ~KTPhotoReadAhead();

@@ -34,14 +34,15 @@ void KTPhoto::log(const fs::path& file, const char* description, const std::opti
     addPhotoOperation(operation);
 }
 
-void KTPhoto::saveWithBackupToFolder(const std::optional<fs::path>& backupFolder) {
+void KTPhoto::saveWithBackupToFolder(const std::optional<fs::path>& backupFolder,
+                                     const KTPhotoSaving& saving) {
     // The two date stamps are edits like any other; where nobody records edits, this save does.
     std::optional<KTPhotoChangeTracker> ownTracker;
     if (trackers == 0)
         ownTracker.emplace(*this);
     saveToIPhotoOriginalIfNecessaryWithBackupToFolder(backupFolder);
     const KTCallMark untracked(this);
-    if (!saveFiles(backupFolder))
+    if (!saveFiles(backupFolder, saving))
         return;
     saveLibraryItem();
     checkForUnsavedChanges();
@@ -52,7 +53,7 @@ void KTPhoto::stampWithDate(std::string_view key, const KTValue& date) {
 }
 
 /// False when a failure stops the whole save.
-bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
+bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder, const KTPhotoSaving& saving) {
     if (!unsavedFile() && !unsavedSidecar())
         return true;
     const KTValue metadataDate = valueForKey("metadataDate"), modifyDate = valueForKey("modifyDate");
@@ -63,10 +64,10 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
 
     std::vector<WriteResult> results;
     if (unsavedFile())
-        results.push_back(saveFile(KTMetadataSource::Image, backupFolder));
+        results.push_back(saveFile(KTMetadataSource::Image, backupFolder, saving));
     const bool isStopped = !results.empty() && results.back() == WriteResult::Stopped;
     if (!isStopped && unsavedSidecar())
-        results.push_back(saveFile(KTMetadataSource::Sidecar, backupFolder));
+        results.push_back(saveFile(KTMetadataSource::Sidecar, backupFolder, saving));
     if (std::ranges::find(results, WriteResult::Written) != results.end()) {
         followFiles(fields);
     } else {
@@ -79,7 +80,8 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder) {
 }
 
 KTPhoto::WriteResult KTPhoto::saveFile(KTMetadataSource::Kind kind,
-                                       const std::optional<fs::path>& backupFolder) {
+                                       const std::optional<fs::path>& backupFolder,
+                                       const KTPhotoSaving& saving) {
     const bool isImage = kind == KTMetadataSource::Image;
     const fs::path file = isImage ? imageURL : xmpURL();
     fs::path backup;
@@ -98,6 +100,7 @@ KTPhoto::WriteResult KTPhoto::saveFile(KTMetadataSource::Kind kind,
         WriteRequest request = isImage ? imageRequest() : sidecarRequest();
         request.warning = refresh.warning;
         request.backupFolder = backupFolder;
+        request.saving = &saving;
         const WriteResult result = writeAndReplace(request);
         if (result != WriteResult::ChangedMeanwhile)
             return result;
@@ -134,7 +137,8 @@ KTPhoto::WriteRequest KTPhoto::imageRequest() const {
             adaptedToLanguageAlternatives(written, *image.saved),
             image.stamp,
             {},
-            {}};
+            {},
+            nullptr};
 }
 
 KTPhoto::WriteRequest KTPhoto::sidecarRequest() const {
@@ -153,7 +157,8 @@ KTPhoto::WriteRequest KTPhoto::sidecarRequest() const {
             adaptedToLanguageAlternatives(written, exists ? *sidecar.saved : *image.saved),
             sidecar.stamp,
             {},
-            {}};
+            {},
+            nullptr};
 }
 
 /// Writing IPTC renews its digest, which says that IPTC and XMP agree. A field that the user did not touch

@@ -11,4 +11,5 @@ struct KTPhoto::WriteRequest {
     std::optional<KTFileStamp> expected; ///< the target as the changes were made for it; nothing where none
     std::optional<std::string> warning;  ///< what the user should know of this write
     std::optional<std::filesystem::path> backupFolder;
+    const KTPhotoSaving* saving = nullptr; ///< that of the save; set before it is carried out
 };

@@ -1,4 +1,4 @@
-#include "metadata/KTExifTool.h"
+#include "metadata/KTExifToolLease.h"
 
 #include "platform/common/KTText.h"
 #include "tests/support/TestPhotos.h"
@@ -237,4 +237,23 @@ TEST(PhotoOperation, DerivesItsResult) {
     operation.failureDescription = "failure";
     EXPECT_EQ(operation.resultType(), KTPhotoOperation::Failure);
     EXPECT_EQ(operation.resultDescription(), "failure");
+}
+
+TEST(ExifToolLease, GivesABridgeOfItsOwnAndKeepsItForTheNext) {
+    TemporaryFolder folder;
+    const auto photo = makePhoto(folder, "a.jpg", {{"XMP:Title", "Title"}});
+    const KTExifTool* first = nullptr;
+    {
+        const KTExifToolLease one, other;
+        first = &*other;
+        EXPECT_NE(&*one, &*other);
+        EXPECT_NE(&*one, &KTExifTool::sharedExifTool());
+        KTTagDictionary tags;
+        EXPECT_TRUE((*one).extractAllKeysIntoDictionary(tags, photo).operationDidSucceed);
+        EXPECT_EQ(tags.valueForKey("XMP:Title"), "Title");
+    }
+    const KTExifToolLease again, another;
+    EXPECT_TRUE(&*again == first || &*another == first);
+    EXPECT_EQ(KTExifToolLease::usefulBridges(1), 1U);
+    EXPECT_LE(KTExifToolLease::usefulBridges(100'000), 4U);
 }

@@ -16,6 +16,11 @@ KTOperationQueue::~KTOperationQueue() {
     waitUntilAllOperationsAreFinished();
 }
 
+void KTOperationQueue::setMaxConcurrentOperationCount(std::size_t count) {
+    std::lock_guard guard(mutex);
+    width = count;
+}
+
 void KTOperationQueue::addOperation(std::shared_ptr<KTOperation> operation) {
     addOperations({std::move(operation)});
 }
@@ -44,7 +49,7 @@ void KTOperationQueue::addOperations(std::vector<std::shared_ptr<KTOperation>> o
 void KTOperationQueue::work() {
     const KTCallMark mark(&workers);
     std::unique_lock lock(mutex);
-    while (!pending.empty()) {
+    while (!pending.empty() && running.size() < width) { // another may have come to work meanwhile
         auto place = running.insert(running.end(), std::move(pending.front()));
         pending.pop_front();
         KTOperation& operation = **place;

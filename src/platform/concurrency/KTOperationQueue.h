@@ -13,6 +13,8 @@ public:
     /// Cancels what has not started and waits for the rest.
     ~KTOperationQueue() override;
 
+    /// Several at a time, of operations that are added from now on.
+    void setMaxConcurrentOperationCount(std::size_t count);
     void addOperation(std::shared_ptr<KTOperation> operation);
     /// Adds them at once: no progress is announced in between.
     void addOperations(std::vector<std::shared_ptr<KTOperation>> operations);
@@ -28,8 +30,8 @@ public:
 private:
     void work();
 
-    const std::size_t width;
     mutable std::mutex mutex;
+    std::size_t width;
     std::list<std::shared_ptr<KTOperation>> pending;
     std::list<std::shared_ptr<KTOperation>> running;
     std::size_t workers = 0;

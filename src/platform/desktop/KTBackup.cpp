@@ -2,7 +2,11 @@
 
 #include "platform/desktop/KTItemReplacement.h"
 
+#include <mutex>
+
 KTBackup KTBackup::of(const std::filesystem::path& original, const std::filesystem::path& folder) {
+    static std::mutex mutex; // photos of one name that are saved at a time must not choose one place
+    std::lock_guard guard(mutex);
     const std::filesystem::path copy = folder / KTBackupName(folder, original.filename());
     const KTItemReplacement place(copy);
     if (place.error())

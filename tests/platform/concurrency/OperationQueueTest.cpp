@@ -44,6 +44,26 @@ TEST(OperationQueue, StartsOperationsInOrderUpToItsWidth) {
     EXPECT_EQ(most, kWidth);
 }
 
+TEST(OperationQueue, BecomesNarrowForWhatIsAddedLater) {
+    KTOperationQueue queue;
+    std::atomic<int> running = 0, most = 0;
+    for (int round = 0; round < 300; ++round) {
+        queue.setMaxConcurrentOperationCount(2);
+        queue.addOperations(operationsOf({[] {}, [] {}, [] {}}));
+        while (queue.operationCount() != 0)
+            std::this_thread::yield(); // its threads may still be about to look for more
+        queue.setMaxConcurrentOperationCount(1);
+        const auto narrow = [&] {
+            most = std::max(most.load(), ++running);
+            std::this_thread::yield();
+            --running;
+        };
+        queue.addOperations(operationsOf({narrow, narrow, narrow, narrow}));
+        queue.waitUntilAllOperationsAreFinished();
+    }
+    EXPECT_EQ(most, 1);
+}
+
 TEST(OperationQueue, AnnouncesEachChangeOfItsCount) {
     KTOperationQueue queue;
     std::mutex mutex;

@@ -27,6 +27,7 @@ void KTMetadataFieldArrayViewItem::follow(const KTChange& change) {
         return;
     if (change.key == "photos") {
         announceValue();
+        willChange("isEditable");
         didChange("isEditable");
     }
     if (change.key == "photos" || change.key == "hasUnsavedEdits") {

@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/presentation/KTMenu.h"
 #include "platform/presentation/KTPresenter.h"
+#include "platform/tracklibrary/KTGPSReceivers.h"
 #include "platform/tracklibrary/KTSmartFile.h"
 #include "platform/tracklibrary/KTTrackManager.h"
 #include "platform/tracklibrary/KTTrackSourceList.h"
@@ -46,6 +47,8 @@ public:
     // Commands (KTTrackPickerControllerCommands.cpp)
     /// Asks for track files and imports them; the panel begins in the folder of the last ones.
     void importFilesAction();
+    /// Imports what GPS receivers that are mounted as disks hold, or tells the user that there are none.
+    void downloadFromGPSAction(std::vector<std::filesystem::path> mounts = KTGPSReceivers::mountFolders());
     /// Imports, and tells the user of the files that could not be imported.
     void importFilesAtPaths(const KTTrackManager::Paths& files);
     /// Removes the selected tracks, and the waypoints of the files of which waypoints are selected; one step

@@ -1,6 +1,7 @@
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
+#include "platform/concurrency/KTThreadPool.h"
 #include "platform/desktop/KTItemReplacement.h"
 #include "platform/tracklibrary/KTTrackPickerController.h"
 
@@ -20,6 +21,24 @@ void KTTrackPickerController::importFilesAction() {
                                      (*controller)->lastFolder = paths.back().parent_path();
                                      (*controller)->importFilesAtPaths(paths);
                                  }});
+}
+
+void KTTrackPickerController::downloadFromGPSAction(std::vector<std::filesystem::path> mounts) {
+    KTRunOnThreadPool([alive = std::weak_ptr(self), mounts = std::move(mounts)] {
+        KTPerformOnMainThread([alive, files = KTGPSReceivers::trackFiles(mounts)] {
+            const auto controller = alive.lock();
+            if (!controller)
+                return;
+            if (files.empty())
+                (*controller)
+                    ->presentProblems(
+                        KTLocalizedString("No tracks of a GPS receiver were found."),
+                        {KTLocalizedString(
+                            "Connect the receiver, wait until it appears as a disk, and try again.")});
+            else
+                (*controller)->importFilesAtPaths(files);
+        });
+    });
 }
 
 void KTTrackPickerController::importFilesAtPaths(const KTTrackManager::Paths& files) {

@@ -40,6 +40,8 @@ public:
     void setup();
     void tearDown();
 
+    /// Those of @p photos that are loaded: menus and questions may stay open while photos are removed.
+    Photos stillLoaded(const Photos& photos) const;
     KTPhotoManager& photoManager() const { return manager; }
     Snapshot photos() const { return manager.arrangedPhotos(); }
     Photos photosAtIndexes(const Indexes& indexes) const { return manager.arrangedPhotosAtIndexes(indexes); }
@@ -114,7 +116,6 @@ private:
     struct Place;
 
     void forward(const KTChange& change);
-    Photos stillLoaded(const Photos& photos) const;
     KTMenuItem itemForPhotos(std::string title, void (KTPhotoController::*action)(const Photos&),
                              const Snapshot& photos, bool isEnabled = true);
     KTMenuItem shareItem();

@@ -32,7 +32,7 @@ public:
                                    KTGazetteer& gazetteer, KTTimeZoneManager& timeZoneManager);
     ~AppPreferencesWindowController() override;
 
-    /// Whom chooseBackupFolder asks; the window itself. Null for nobody.
+    /// Whom chooseBackupFolder asks; null for nobody.
     void setPresenter(KTPresenter* whoAsks) { presenter = whoAsks; }
 
     /// The panes in their order.

@@ -5,12 +5,14 @@
 #include "platform/observing/KTObservable.h"
 
 #include <filesystem>
+#include <stop_token>
 #include <vector>
 
 class AppPreferencesWindowController;
 class KTPhotoExportPluginMenuController;
 class PhotoManagerMenuBarController;
 class WaymarkMainMenu;
+struct DroppedFiles;
 
 /// The application: makes model, controllers and windows in their order, routes dropped and opened files,
 /// carries out the commands of the menu bar, and guards the end. Observable under the names of its
@@ -45,6 +47,8 @@ public:
     const std::shared_ptr<KTSerialQueue>& undoQueue() const { return queueOfUndo; }
     KTPluginManager* pluginManager() const { return plugins.get(); }
     KTPhotoExportPluginManager* photoExportPluginManager() const { return exportPlugins.get(); }
+    KTDateToolsWindowController* dateToolsWindowController() const { return dateTools.get(); }
+    bool hasDateToolsWindow() const { return dateToolsWindow != nullptr; }
     KTAppTrackPickerController* trackPickerController() const { return trackPicker.get(); }
     PhotoManagerMenuBarController* photoManagerMenuBarController() const { return menuBarFlags.get(); }
     KTPhotoOperationWindowController* photoOperationWindowController() const { return operationLog.get(); }
@@ -72,12 +76,17 @@ public:
     // The end
     /// Stores what is to be kept, and asks the user where photos have unsaved changes.
     TerminateReply applicationShouldTerminate();
+    /// Asks, and ends the program where nothing is to be asked.
+    void quit();
     /// Stops imports, batches and questions for place names; the photo being written is finished. The last
     /// call before the controller is destroyed.
     void applicationWillTerminate();
 
     // Window commands (WaymarkAppControllerCommands.cpp)
     void togglePreferencesWindow();
+    void toggleDateAndTimeShifter();
+    void toggleDateAndTimeSetter();
+    void toggleDateAndTimeCopier();
     void toggleTagDetailsWindow();
     void togglePhotoOperationWindow();
     void toggleTrackPickerWindow() {}
@@ -85,6 +94,7 @@ public:
 
     // Menu commands, forwarded to the controllers of the main window; nothing without one
     void loadTracksFromFile();
+    void downloadTracksFromGPS();
     void openTrackAndWaypointBrowser();
     void loadPhotosFromFiles();
     void removeSelectedPhotos();
@@ -105,8 +115,8 @@ public:
     void redoLastStep();
     void selectAllPhotos();
     void deselectAllPhotos();
-    void selectNextPhoto();
-    void selectPreviousPhoto();
+    void selectNextPhoto() { selectNeighbour(true); }
+    void selectPreviousPhoto() { selectNeighbour(false); }
     /// The selected photo's position as text on the clipboard.
     void copyCoordinates();
     /// Geotags the selected photos to the position that the text on the clipboard names.
@@ -118,10 +128,17 @@ public:
 
 private:
     void handleWaymarkWindowWillClose();
+    void closeMainWindow();
     void handleTagDetailsWindowWillClose();
     void handlePreferencesWindowWillClose();
+    template<class Command>
+    void withPhotos(const Command& command);
+    void selectNeighbour(bool isNext);
+    void afterwards(void (WaymarkAppController::*handler)());
+    void loadPlugins();
     void alertDidEnd(std::size_t returnCode);
     void importFiles(const Paths& paths, bool bundlesAreFiles);
+    void importDroppedFiles(const DroppedFiles& files);
 
     WaymarkUserInterface& userInterface;
     WaymarkModel model;
@@ -131,12 +148,17 @@ private:
     std::unique_ptr<KTPluginManager> plugins;
     std::unique_ptr<KTAppTrackPickerController> trackPicker;
     std::unique_ptr<PhotoManagerMenuBarController> menuBarFlags;
+    std::unique_ptr<KTDateToolsWindowController> dateTools;
     std::unique_ptr<KTPhotoOperationWindowController> operationLog;
     std::unique_ptr<KTPhotoExportPluginMenuController> exportMenu;
     std::unique_ptr<WaymarkMainMenu> menu;
     std::unique_ptr<WaymarkWindowController> mainWindow;
     std::unique_ptr<KTTagDetailsWindowController> tagDetails;
     std::unique_ptr<AppPreferencesWindowController> preferences;
-    WaymarkUserInterface::Window tagDetailsWindow, operationLogWindow, trackPickerWindow, preferencesWindow;
+    bool hasToldLibraryProblem = false, isAskingToQuit = false;
+    std::stop_source listingStop;
+    Observation mainWindowObservation, tagDetailsObservation, preferencesObservation;
+    WaymarkUserInterface::Window tagDetailsWindow, operationLogWindow, trackPickerWindow, dateToolsWindow,
+        preferencesWindow;
     const std::shared_ptr<WaymarkAppController*> self; // for what is posted
 };

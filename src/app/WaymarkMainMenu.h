@@ -7,6 +7,7 @@
 #include <string_view>
 
 class WaymarkAppController;
+struct WaymarkCommand;
 
 /// The menu bar as data: menus, items, shortcuts, what is enabled and checked now. Commands for parts that do
 /// not exist are absent. Main thread.
@@ -31,6 +32,7 @@ public:
     bool performCommand(std::string_view identifier);
 
 private:
+    KTMenuItem itemOf(const WaymarkCommand& command) const;
     void announceSoon();
 
     WaymarkAppController& app;

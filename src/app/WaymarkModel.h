@@ -20,7 +20,8 @@ struct WaymarkModel {
     KTTrackManager* trackManager = nullptr;
     KTTimeZoneManager* timeZoneManager = nullptr;
     KTGazetteer* gazetteer = nullptr;
-    KTSystemTimeZone* systemTimeZone = nullptr;
+    std::shared_ptr<KTSystemTimeZone> systemTimeZone =
+        nullptr; ///< ends with the application, not the process
     /// Why trackManager does not stand on the user's library; empty when it does.
     std::string trackLibraryProblem = {};
 

@@ -6,6 +6,7 @@
 
 class AppPreferencesWindowController;
 class KTAppTrackPickerController;
+class KTDateToolsWindowController;
 class KTPhotoOperationWindowController;
 class KTTagDetailsWindowController;
 class WaymarkAppController;
@@ -34,6 +35,9 @@ public:
     virtual Window makeTagDetailsWindow(KTTagDetailsWindowController& controller) = 0;
     virtual Window makePhotoOperationWindow(KTPhotoOperationWindowController& controller) = 0;
     virtual Window makeTrackPickerWindow(KTAppTrackPickerController& controller) = 0;
+    /// On the screen while a tool is selected. Null where there is no such window: its commands are absent
+    /// then.
+    virtual Window makeDateToolsWindow(KTDateToolsWindowController& /*controller*/) { return nullptr; }
 
     /// Shows name, version and licences.
     virtual void showAboutBox() = 0;

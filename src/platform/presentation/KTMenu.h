@@ -6,7 +6,7 @@
 
 /// One entry of a menu, as a controller publishes it and whoever has a screen shows it. A value type.
 struct KTMenuItem {
-    std::string title = {}; ///< in the user's language; empty for a separator
+    std::string title = {}; ///< in the user's language, as it is to be read; empty for a separator
     std::function<void()> action = {};
     bool isEnabled = true;
     std::vector<KTMenuItem> submenu = {};

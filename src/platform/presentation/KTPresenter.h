@@ -25,6 +25,7 @@ struct KTFilePanel {
     std::filesystem::path directory = {};           ///< where it opens
     std::string proposedName = {};                  ///< of a file to be saved
     std::string buttonText = {};                    ///< empty for the usual one
+    std::string title = {};                         ///< empty for the usual one
     KTViewHandle accessoryView = nullptr;
     /// Called once, on the main thread, with the chosen paths; with none when cancelled. Open panels choose
     /// files and folders, as many as wanted, the others one.

@@ -1,0 +1,171 @@
+#include "app/WaymarkAppController.h"
+
+#include "app/AppPreferencesWindowController.h"
+#include "app/WaymarkMainMenu.h"
+#include "app/WaymarkWindowController.h"
+#include "collection/KTBatchOperationController.h"
+#include "collection/KTPhotoManager.h"
+#include "collection/KTPhotoOperationWindowController.h"
+#include "collection/KTTagDetailsWindowController.h"
+#include "collection/PhotoManagerMenuBarController.h"
+#include "datetools/KTDateToolsWindowController.h"
+#include "export/KTPhotoExportPluginMenuController.h"
+#include "export/KTPluginManager.h"
+#include "geotagging/KTAppTrackPickerController.h"
+#include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
+#include "platform/concurrency/KTMainThread.h"
+#include "platform/gazetteer/KTGazetteer.h"
+#include "platform/undo/KTUndoManager.h"
+
+WaymarkAppController::WaymarkAppController(WaymarkUserInterface& screen, WaymarkModel shared)
+    : userInterface(screen), model(std::move(shared)), self(std::make_shared<WaymarkAppController*>(this)) {}
+
+/// Windows go before what they show.
+WaymarkAppController::~WaymarkAppController() {
+    preferencesWindow.reset();
+    tagDetailsWindow.reset();
+    trackPickerWindow.reset();
+    operationLogWindow.reset();
+    dateToolsWindow.reset();
+    menu.reset();
+    if (mainWindow)
+        closeMainWindow();
+}
+
+void WaymarkAppController::setupModel() {
+    queueOfUndo =
+        std::make_shared<KTSerialQueue>("com.Brightfold.UndoQueue", KTSerialQueue::Kind::Announcing);
+    undo = std::make_shared<KTUndoManager>(queueOfUndo);
+    exportPlugins = KTPhotoExportPluginManager::make();
+    plugins = std::make_unique<KTPluginManager>(exportPlugins);
+    photoManager().setUndoManager(undo, queueOfUndo);
+}
+
+void WaymarkAppController::setupControllers() {
+    trackPicker = std::make_unique<KTAppTrackPickerController>(trackManager());
+    trackPicker->setPhotoManager(&photoManager());
+    trackPicker->setUndoManager(undo);
+    trackPicker->setup();
+    trackPickerWindow = userInterface.makeTrackPickerWindow(*trackPicker);
+    menuBarFlags = std::make_unique<PhotoManagerMenuBarController>(photoManager());
+    menuBarFlags->setup();
+    dateTools = std::make_unique<KTDateToolsWindowController>(photoManager(), metadataFieldManager(),
+                                                              timeZoneManager());
+    dateTools->setup();
+    dateToolsWindow = userInterface.makeDateToolsWindow(*dateTools);
+    operationLog = std::make_unique<KTPhotoOperationWindowController>(photoManager());
+    operationLog->setup();
+    operationLogWindow = userInterface.makePhotoOperationWindow(*operationLog);
+    menu = std::make_unique<WaymarkMainMenu>(*this);
+    menu->setup();
+}
+
+void WaymarkAppController::showWaymarkWindow() {
+    if (!mainWindow) {
+        willChange("waymarkWindowController");
+        mainWindow = std::make_unique<WaymarkWindowController>(*this);
+        mainWindow->setup(userInterface);
+        didChange("waymarkWindowController");
+        mainWindowObservation = mainWindow->observe([this](const KTChange& change) {
+            if (change.key == "isWindowVisible" && !change.isPrior && !mainWindow->isWindowVisible())
+                afterwards(&WaymarkAppController::handleWaymarkWindowWillClose);
+        });
+        setupPlugins();
+        menu->setup();
+    }
+    mainWindow->setWindowVisible(true);
+    if (!std::exchange(hasToldLibraryProblem, true) && !model.trackLibraryProblem.empty())
+        mainWindow->window()->presentAlert(
+            {.message = KTLocalizedString("The track library cannot be used."),
+             .informativeText =
+                 model.trackLibraryProblem + "\n" +
+                 KTLocalizedString(
+                     "Tracks that you add now are kept until you quit. Your library stays as it is."),
+             .buttons = {KTLocalizedString("OK")}});
+}
+
+/// Runs @p handler from the event loop: it destroys the one who announces.
+void WaymarkAppController::afterwards(void (WaymarkAppController::*handler)()) {
+    KTPerformOnMainThread([handler, alive = std::weak_ptr(self)] {
+        if (const auto controller = alive.lock())
+            ((*controller)->*handler)();
+    });
+}
+
+void WaymarkAppController::setupPlugins() {
+    exportMenu = std::make_unique<KTPhotoExportPluginMenuController>();
+    exportMenu->setPhotoExportPluginManager(exportPlugins.get());
+    exportMenu->setup();
+    exportPlugins->setPhotoController(mainWindow->photoController());
+    exportPlugins->setTrackManager(&trackManager());
+    exportPlugins->setMetadataController(&metadataFieldManager());
+    exportPlugins->setPresenter(mainWindow->window());
+    exportPlugins->setPrimaryWindow(mainWindow->window()->viewHandle());
+    afterwards(&WaymarkAppController::loadPlugins); // the window is up first
+}
+
+void WaymarkAppController::loadPlugins() {
+    if (mainWindow)
+        plugins->loadAllPlugins();
+}
+
+void WaymarkAppController::handleWaymarkWindowWillClose() {
+    if (!mainWindow || mainWindow->isWindowVisible())
+        return;
+    handlePreferencesWindowWillClose(); // it knows the window's map
+    willChange("waymarkWindowController");
+    closeMainWindow();
+    didChange("waymarkWindowController");
+}
+
+void WaymarkAppController::closeMainWindow() {
+    exportPlugins->setPhotoController(nullptr);
+    exportPlugins->setPresenter(nullptr);
+    exportPlugins->setPrimaryWindow(nullptr);
+    exportMenu->tearDown();
+    mainWindowObservation.stop();
+    mainWindow->tearDown();
+    mainWindow.reset();
+}
+
+WaymarkAppController::TerminateReply WaymarkAppController::applicationShouldTerminate() {
+    const std::size_t unsaved = photoManager().unsavedPhotos()->size();
+    if (unsaved == 0)
+        return TerminateReply::Now;
+    if (isAskingToQuit)
+        return TerminateReply::Later;
+    isAskingToQuit = true;
+    KTPresenter& asked = mainWindow ? *mainWindow->window() : userInterface.presenter();
+    asked.presentAlert(
+        {.message = KTStringWithFormat(
+             KTLocalizedString("You have %d photos with unsaved changes. Are you sure you want to quit?"),
+             {std::to_string(unsaved)}),
+         .informativeText = KTLocalizedString("If you don't save, all changes will be lost."),
+         .buttons = {KTLocalizedString("Discard Changes & Quit"), KTLocalizedString("Cancel")},
+         .completion = [alive = std::weak_ptr(self)](std::size_t button) {
+             if (const auto controller = alive.lock())
+                 (*controller)->alertDidEnd(button);
+         }});
+    return TerminateReply::Later;
+}
+
+void WaymarkAppController::quit() {
+    if (applicationShouldTerminate() == TerminateReply::Now)
+        userInterface.terminate();
+}
+
+void WaymarkAppController::alertDidEnd(std::size_t returnCode) {
+    isAskingToQuit = false;
+    if (returnCode == 0)
+        userInterface.terminate();
+}
+
+void WaymarkAppController::applicationWillTerminate() {
+    listingStop.request_stop();
+    photoManager().setShouldCancelImport();
+    trackManager().cancelImport();
+    if (mainWindow)
+        mainWindow->batchOperationController()->abortBatch();
+    gazetteer().close();
+}

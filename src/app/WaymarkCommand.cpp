@@ -1,0 +1,165 @@
+#include "app/WaymarkCommand.h"
+
+#include "app/WaymarkAppController.h"
+#include "app/WaymarkWindowController.h"
+#include "collection/KTPhotoManager.h"
+#include "collection/KTPhotoManagerToolbarController.h"
+#include "collection/KTPhotoOperationWindowController.h"
+#include "collection/PhotoManagerMenuBarController.h"
+#include "datetools/KTDateToolsWindowController.h"
+#include "platform/common/KTLocalizedString.h"
+#include "platform/undo/KTUndoManager.h"
+
+namespace {
+
+using App = WaymarkAppController;
+using DateTools = KTDateToolsWindowController;
+
+// What commands need
+bool canUndo(const App& app) {
+    return app.undoManager()->canUndo();
+}
+bool canRedo(const App& app) {
+    return app.undoManager()->canRedo();
+}
+bool hasWindow(const App& app) {
+    return app.waymarkWindowController() != nullptr;
+}
+bool hasPhotos(const App& app) {
+    return app.photoManager().numberOfPhotos() != 0;
+}
+bool hasSelectedPhotos(const App& app) {
+    return app.photoManagerMenuBarController()->hasSelectedPhotos();
+}
+bool hasLocationCreated(const App& app) {
+    return app.photoManagerMenuBarController()->hasLocationCreated();
+}
+bool hasLocationShown(const App& app) {
+    return app.photoManagerMenuBarController()->hasLocationShown();
+}
+bool hasImageDirection(const App& app) {
+    return app.photoManagerMenuBarController()->hasImageDirection();
+}
+bool canWrite(const App& app) {
+    return hasWindow(app) &&
+           app.waymarkWindowController()->photoManagerToolbarController()->isUnsavedPhotosButtonEnabled();
+}
+bool canPlaceOnMap(const App& app) {
+    return hasWindow(app) && hasSelectedPhotos(app);
+}
+bool isOperationLogShown(const App& app) {
+    return app.photoOperationWindowController()->isWindowVisible();
+}
+bool hasDateTools(const App& app) {
+    return app.hasDateToolsWindow();
+}
+template<unsigned tool>
+bool isDateToolShown(const App& app) {
+    return app.dateToolsWindowController()->selectedDateTool() == tool;
+}
+bool areTagDetailsShown(const App& app) {
+    return app.tagDetailsWindowController() != nullptr;
+}
+
+template<WaymarkPane pane>
+bool hasPane(const App& app) {
+    const WaymarkWindowController* window = app.waymarkWindowController();
+    return window != nullptr && window->window() != nullptr && window->window()->hasPane(pane);
+}
+template<WaymarkPane pane>
+bool isPaneShown(const App& app) {
+    return hasWindow(app) && app.waymarkWindowController()->isPaneShown(pane);
+}
+
+/// "Undo Geotag Photos".
+std::string withAction(const char* verb, const std::string& action) {
+    return action.empty() ? KTLocalizedString(verb) : KTLocalizedString(verb) + " " + action;
+}
+std::string undoTitle(const App& app) {
+    return withAction("Undo", app.undoManager()->undoActionName());
+}
+std::string redoTitle(const App& app) {
+    return withAction("Redo", app.undoManager()->redoActionName());
+}
+
+using enum WaymarkPane;
+
+// clang-format off
+const WaymarkCommand kCommands[] = {
+    {"fileMenu", "File"},
+    {"loadPhotosFromFiles", "Add Photos…", &App::loadPhotosFromFiles, "Ctrl+O", hasWindow},
+    {"loadTracksFromFile", "Add Tracks…", &App::loadTracksFromFile, "Ctrl+Shift+O", hasWindow},
+    {"downloadTracksFromGPS", "Download Tracks from GPS", &App::downloadTracksFromGPS, {}, hasWindow},
+    {},
+    {"writeChangedTags", "Write Changed Tags", &App::writeChangedTags, "Ctrl+S", canWrite},
+    {"removeSelectedPhotos", "Remove Photos", &App::removeSelectedPhotos, "Ctrl+Backspace", hasSelectedPhotos},
+    {},
+    {"quit", "Quit", &App::quit, "Ctrl+Q"},
+
+    {"editMenu", "Edit"},
+    {"undo", "Undo", &App::undoLastStep, "Ctrl+Z", canUndo, nullptr, nullptr, undoTitle},
+    {"redo", "Redo", &App::redoLastStep, "Ctrl+Shift+Z", canRedo, nullptr, nullptr, redoTitle},
+    {},
+    {"copyCoordinates", "Copy Coordinates", &App::copyCoordinates, "Ctrl+Shift+C", hasLocationCreated},
+    {"pasteCoordinates", "Paste Coordinates", &App::pasteCoordinates, "Ctrl+Shift+V", canPlaceOnMap},
+    {},
+    {"selectAllPhotos", "Select All Photos", &App::selectAllPhotos, "Ctrl+A", hasPhotos},
+    {"deselectAllPhotos", "Deselect All Photos", &App::deselectAllPhotos, "Ctrl+Shift+A", hasSelectedPhotos},
+    {"selectNextPhoto", "Select Next Photo", &App::selectNextPhoto, "Ctrl+Right", hasPhotos},
+    {"selectPreviousPhoto", "Select Previous Photo", &App::selectPreviousPhoto, "Ctrl+Left", hasPhotos},
+    {},
+    {"togglePreferencesWindow", "Preferences…", &App::togglePreferencesWindow, "Ctrl+,"},
+
+    {"photoMenu", "Photo"},
+    {"geotagToMapCenter", "Geotag to Map Center", &App::geotagToMapCenter, "Ctrl+G", canPlaceOnMap},
+    {"geotagToMapCenterAndGoOn", "Geotag to Map Center and Go On", &App::geotagToMapCenterAndGoOn,
+     "Ctrl+Shift+G", canPlaceOnMap},
+    {},
+    {"reverseGeocodeLocationCreated", "Reverse Geocode Location Created", &App::reverseGeocodeLocationCreated, {},
+     hasLocationCreated},
+    {"reverseGeocodeLocationShown", "Reverse Geocode Location Shown", &App::reverseGeocodeLocationShown, {},
+     hasLocationShown},
+    {},
+    {"toggleDateAndTimeShifter", "Adjust Date & Time…", &App::toggleDateAndTimeShifter, "Ctrl+D", nullptr,
+     hasDateTools, isDateToolShown<DateTools::Shift>},
+    {"toggleDateAndTimeSetter", "Set Date & Time…", &App::toggleDateAndTimeSetter, {}, nullptr, hasDateTools,
+     isDateToolShown<DateTools::Set>},
+    {"toggleDateAndTimeCopier", "Copy Date & Time…", &App::toggleDateAndTimeCopier, {}, nullptr, hasDateTools,
+     isDateToolShown<DateTools::Copy>},
+    {},
+    {"removeGPSTags", "Remove GPS Tags…", &App::removeGPSTags, {}, hasLocationCreated},
+    {"removeImageDirection", "Remove Image Direction…", &App::removeImageDirection, {}, hasImageDirection},
+    {"removeLocationShown", "Remove Location Shown…", &App::removeLocationShown, {}, hasLocationShown},
+
+    {"viewMenu", "View"},
+    {"toggleThumbnail", "Thumbnails", &App::toggleThumbnail, "Ctrl+1", nullptr, hasPane<ThumbnailView>,
+     isPaneShown<ThumbnailView>},
+    {"toggleMap", "Map", &App::toggleMap, "Ctrl+2", nullptr, hasPane<MapView>, isPaneShown<MapView>},
+    {"toggleGeotaggingConsole", "Geotagging Console", &App::toggleGeotaggingConsole, "Ctrl+3", nullptr,
+     hasPane<GeotaggingView>, isPaneShown<GeotaggingView>},
+    {"toggleMetadataTagViewer", "Metadata", &App::toggleMetadataTagViewer, "Ctrl+4", nullptr,
+     hasPane<MetadataView>, isPaneShown<MetadataView>},
+    {"customizeMetadataTagViewer", "Customize Metadata", &App::customizeMetadataTagViewer, {}, nullptr,
+     hasPane<MetadataCustomizationView>, isPaneShown<MetadataCustomizationView>},
+    {"togglePhotoViewOptions", "View Options", &App::togglePhotoViewOptions, "Ctrl+J", nullptr,
+     hasPane<ViewOptions>, isPaneShown<ViewOptions>},
+    {},
+    {"zoomToFit", "Zoom to Photos", &App::zoomToFit, "Ctrl+0", hasPhotos, hasPane<MapView>},
+
+    {"windowMenu", "Window"},
+    {"openTrackAndWaypointBrowser", "Track Library", &App::openTrackAndWaypointBrowser, "Ctrl+T"},
+    {"toggleTagDetailsWindow", "Tag Details", &App::toggleTagDetailsWindow, "Ctrl+I", nullptr, nullptr,
+     areTagDetailsShown},
+    {"togglePhotoOperationWindow", "Operation Log", &App::togglePhotoOperationWindow, "Ctrl+L", nullptr, nullptr,
+     isOperationLogShown},
+
+    {"helpMenu", "Help"},
+    {"showAboutBox", "About Waymark", &App::showAboutBox},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const WaymarkCommand> WaymarkCommand::all() {
+    return kCommands;
+}

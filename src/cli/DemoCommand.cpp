@@ -1,4 +1,4 @@
-#include "cli/DemoTrip.h"
+#include "collection/DemoTrip.h"
 #include "cli/GeotagCommand.h"
 
 #include "platform/common/KTLocalizedString.h"

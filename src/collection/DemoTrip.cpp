@@ -1,4 +1,4 @@
-#include "cli/DemoTrip.h"
+#include "collection/DemoTrip.h"
 
 #include "metadata/KTExifTool.h"
 #include "platform/common/KTCalendar.h"

@@ -1,0 +1,7 @@
+#pragma once
+#include "app/thumbnails/RawPreview.h"
+#include "app/thumbnails/ThumbnailSize.h"
+
+/// The picture in @p file, turned as the file says and at most @p size large, from an embedded preview where
+/// one is large enough; or why there is none. Any thread.
+DecodedPicture decodeThumbnail(const std::filesystem::path& file, ThumbnailSize size);

@@ -1,0 +1,25 @@
+#pragma once
+#include "platform/observing/KTObservable.h"
+
+#include <QWidget>
+
+class KTTimeZoneHUDController;
+class QPushButton;
+class QRadioButton;
+
+/// In which time zone the clocks of the cameras are taken: the computer's, GMT, or another one that is looked
+/// for in a list.
+class CameraClockView : public QWidget {
+    Q_OBJECT
+public:
+    explicit CameraClockView(KTTimeZoneHUDController& zonePanel, QWidget* parent = nullptr);
+
+private:
+    void update();
+    void pickZone();
+
+    KTTimeZoneHUDController& controller;
+    std::vector<QRadioButton*> options;
+    QPushButton* zoneButton;
+    KTObservable::Observation panelObservation, zoneObservation;
+};

@@ -1,0 +1,15 @@
+#pragma once
+#include "platform/common/KTLocalizedString.h"
+
+#include <QString>
+#include <filesystem>
+
+/// A text of the program, in the user's language.
+inline QString uiText(std::string_view english) {
+    return QString::fromStdString(KTLocalizedString(english));
+}
+
+/// A path for display; bytes that are not UTF-8 show as replacement characters.
+inline QString uiPath(const std::filesystem::path& path) {
+    return QString::fromUtf8(path.native().c_str(), qsizetype(path.native().size()));
+}

@@ -1,0 +1,116 @@
+#include "ui/window/MainToolBar.h"
+
+#include "app/WaymarkAppController.h"
+#include "app/WaymarkWindowController.h"
+#include "collection/KTPhotoManagerToolbarController.h"
+#include "platform/defaults/KTUserDefaults.h"
+#include "platform/undo/KTUndoManager.h"
+#include "ui/photos/PhotoPane.h"
+#include "ui/support/ObservationLink.h"
+#include "ui/support/PrimaryButton.h"
+#include "ui/support/UIText.h"
+
+#include <QButtonGroup>
+#include <QToolButton>
+
+MainToolBar::MainToolBar(WaymarkWindowController& windowController, QWidget* filterBar, QWidget* parent)
+    : QToolBar(uiText("Main Toolbar"), parent), controller(windowController),
+      app(windowController.appController()) {
+    setObjectName("mainToolBar");
+    setMovable(false);
+    setFloatable(false);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIconSize(QSize(16, 16));
+    addButton(uiText("Photos…"), "list-add", uiText("Add photos"), [this] {
+        app.loadPhotosFromFiles();
+    })->setAccessibleName(uiText("Add Photos"));
+    addButton(uiText("Tracks…"), "list-add", uiText("Add GPS tracks"), [this] {
+        app.loadTracksFromFile();
+    })->setAccessibleName(uiText("Add Tracks"));
+    addSeparator();
+    undoButton = addButton({}, "edit-undo", {}, [this] { app.undoLastStep(); });
+    redoButton = addButton({}, "edit-redo", {}, [this] { app.redoLastStep(); });
+    addSeparator();
+    addViewButtons();
+    addWidget(filterBar);
+    auto* const space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    addWidget(space);
+    addPaneButton(WaymarkPane::MapView, uiText("Map"), "map-flat", uiText("Show or hide the map"));
+    addPaneButton(WaymarkPane::GeotaggingView, uiText("Geotag"), "mark-location",
+                  uiText("Show or hide the geotagging console"));
+    addPaneButton(WaymarkPane::MetadataView, uiText("Tags"), "documentinfo",
+                  uiText("Show or hide the metadata of the selected photos"));
+    addSeparator();
+    addWriteButton();
+    observations.push_back(observeFor(this, *app.undoManager(), "undoState", [this] { showUndo(); }));
+    showUndo();
+}
+
+QToolButton* MainToolBar::addButton(const QString& text, const char* icon, const QString& tip,
+                                    std::function<void()> command) {
+    auto* const button = new QToolButton;
+    button->setText(text);
+    button->setIcon(QIcon::fromTheme(icon));
+    button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+    button->setToolTip(tip);
+    button->setFocusPolicy(Qt::TabFocus);
+    connect(button, &QToolButton::clicked, this, [run = std::move(command)] { run(); });
+    addWidget(button);
+    return button;
+}
+
+void MainToolBar::addViewButtons() {
+    auto* const group = new QButtonGroup(this);
+    auto add = [&](PhotoPane::View view, const QString& text, const char* icon, const QString& tip) {
+        QToolButton* const button = addButton(text, icon, tip, [view] { PhotoPane::setShownView(view); });
+        button->setCheckable(true);
+        group->addButton(button, int(view));
+    };
+    add(PhotoPane::Table, uiText("Table"), "view-list-details", uiText("Show the photos as a table"));
+    add(PhotoPane::Thumbnails, uiText("Thumbnails"), "view-list-icons",
+        uiText("Show the photos as thumbnails"));
+    auto check = [group] { group->button(int(PhotoPane::shownView()))->setChecked(true); };
+    observations.push_back(
+        observeFor(this, KTUserDefaults::standardUserDefaults(), "defaultPhotoView", check));
+    check();
+}
+
+void MainToolBar::addPaneButton(WaymarkPane pane, const QString& text, const char* icon, const QString& tip) {
+    if (!controller.window() || !controller.window()->hasPane(pane))
+        return;
+    QToolButton* const button = addButton(text, icon, tip, {});
+    button->setCheckable(true);
+    button->disconnect(this);
+    connect(button, &QToolButton::toggled, this,
+            [this, pane](bool isOn) { controller.setPaneShown(pane, isOn); });
+    auto check = [this, pane, button] { button->setChecked(controller.isPaneShown(pane)); };
+    observations.push_back(observeFor(this, controller, "shownPanes", check));
+    check();
+}
+
+void MainToolBar::addWriteButton() {
+    KTPhotoManagerToolbarController& toolbar = *controller.photoManagerToolbarController();
+    auto* const button = new PrimaryButton(QString::fromStdString(toolbar.unsavedPhotosButtonTitle()));
+    button->setAccessibleName(button->text());
+    button->setToolTip(uiText("Write all unsaved changes to the photos"));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [&toolbar] { toolbar.writeUnsavedChanges(); });
+    auto enable = [button, &toolbar] { button->setEnabled(toolbar.isUnsavedPhotosButtonEnabled()); };
+    observations.push_back(observeFor(this, toolbar, {}, enable));
+    enable();
+    addWidget(button);
+}
+
+void MainToolBar::showUndo() {
+    const KTUndoManager& undo = *app.undoManager();
+    auto show = [](QToolButton& button, bool can, const QString& verb, const std::string& step) {
+        const QString text = step.empty() ? verb : verb + ' ' + QString::fromStdString(step);
+        button.setEnabled(can);
+        button.setToolTip(text);
+        button.setAccessibleName(text);
+    };
+    show(*undoButton, undo.canUndo(), uiText("Undo"), undo.undoActionName());
+    show(*redoButton, undo.canRedo(), uiText("Redo"), undo.redoActionName());
+}

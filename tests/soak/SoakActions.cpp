@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kMostTracks = 12, kMostPhotosLoaded = 60, kMostImported = 25;
 
 KTDecimal degrees(std::int64_t millionths) {
-    return KTDecimal::fromInteger(millionths) / 1'000'000;
+    return KTDecimal::fromInteger(millionths) / KTDecimal::fromInteger(1'000'000);
 }
 
 std::int64_t millisecondsOf(KTInstant instant) {

@@ -38,10 +38,11 @@ QImage readValid(const std::filesystem::path& place, const std::filesystem::path
     if (!reader.canRead())
         return {};
     const auto facts = factsOf(file);
-    if (!facts || reader.text("Thumb::MTime") != facts->modified ||
-        reader.text("Thumb::URI") != QString::fromLatin1(addressOf(file)))
+    const QImage image = reader.read(); // the reader itself cuts keys at their colons
+    if (!facts || image.text("Thumb::MTime") != facts->modified ||
+        image.text("Thumb::URI") != QString::fromLatin1(addressOf(file)))
         return {};
-    return reader.read();
+    return image;
 }
 
 } // namespace

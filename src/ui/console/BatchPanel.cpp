@@ -19,12 +19,12 @@ QLabel* sentence(QPalette::ColorRole role = QPalette::WindowText) {
     return label;
 }
 
-void show(QLabel& label, bool isShown, const std::string& text) {
+void showSentence(QLabel& label, bool isShown, const std::string& text) {
     label.setText(QString::fromStdString(text));
     label.setVisible(isShown);
 }
 
-void show(SignLabel& label, bool isShown, const std::string& text) {
+void showSentence(SignLabel& label, bool isShown, const std::string& text) {
     label.setText(QString::fromStdString(text));
     label.setVisible(isShown);
 }
@@ -56,14 +56,14 @@ BatchPanel::BatchPanel(KTMultipleSelectionLinkerViewController& linkerController
 
 void BatchPanel::update() {
     const KTGeotaggingSummary& texts = controller.summary();
-    show(*successTitle, texts.hasSuccesses, texts.successTitle);
-    show(*success, texts.hasSuccesses, texts.successDescription);
+    showSentence(*successTitle, texts.hasSuccesses, texts.successTitle);
+    showSentence(*success, texts.hasSuccesses, texts.successDescription);
     geotag->setText(QString::fromStdString(texts.successButtonTitle));
     geotag->setAccessibleName(geotag->text());
     geotag->setEnabled(texts.hasSuccesses);
     rule->setVisible(texts.hasFailures || texts.hasAlreadyGeotagged);
-    show(*failureTitle, texts.hasFailures, texts.failureTitle);
-    show(*failure, texts.hasFailures, texts.failureDescription);
-    show(*tip, texts.hasFailureTip, texts.failureTip);
-    show(*already, texts.hasAlreadyGeotagged, texts.alreadyGeotaggedDescription);
+    showSentence(*failureTitle, texts.hasFailures, texts.failureTitle);
+    showSentence(*failure, texts.hasFailures, texts.failureDescription);
+    showSentence(*tip, texts.hasFailureTip, texts.failureTip);
+    showSentence(*already, texts.hasAlreadyGeotagged, texts.alreadyGeotaggedDescription);
 }

@@ -194,7 +194,7 @@ TEST(AppControllerTest, CopiesAndPastesCoordinatesAndGoesFromPhotoToPhoto) {
     EXPECT_EQ(world.ui.clipboard, "46.5, 14.25");
 
     world.app.selectNextPhoto();
-    world.app.waymarkWindowController()->mapController()->setLatitudeLongitude({14, -33});
+    world.app.waymarkWindowController()->mapController()->setLatitudeLongitude({14, -33}, 6);
     world.app.geotagToMapCenterAndGoOn();
     EXPECT_EQ(world.manager.selectedPhotoIndexes(), (std::vector<std::size_t>{2}));
     world.app.geotagToMapCenter();

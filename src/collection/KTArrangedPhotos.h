@@ -16,6 +16,8 @@ public:
 
     // In load order
     std::size_t size() const { return loaded.size(); }
+    /// Null where there is none.
+    Photo at(std::size_t index) const { return index < loaded.size() ? loaded[index] : nullptr; }
     bool contains(const KTPhoto* photo) const;
     bool containsFile(const std::filesystem::path& file) const { return files.contains(file.string()); }
     /// A copy that never changes; made again only after a change.

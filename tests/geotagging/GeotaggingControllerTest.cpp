@@ -241,7 +241,10 @@ TEST(GeotaggingControllerTest, TheManualPanelTakesTheCentreOrAWaypoint) {
     EXPECT_TRUE(world.picker.isWindowVisible());
     EXPECT_EQ(world.picker.selectedSourceList(), world.picker.allWaypoints());
     auto& list = world.picker.trackSourceList();
-    EXPECT_TRUE(runEventLoopUntil([&] { return list.tracksAndWaypoints()->size() == 1; }));
+    EXPECT_TRUE(runEventLoopUntil([&] {
+        return list.tracksAndWaypoints()->size() == 1 &&
+               list.tracksAndWaypoints()->front().waypoint() != nullptr;
+    }));
     list.setSelectedIndexes({0});
     EXPECT_TRUE(panel.canSaveToSelectedWaypoint());
     panel.saveToSelectedWaypoint();

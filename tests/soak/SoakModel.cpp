@@ -3,19 +3,10 @@
 #include <cmath>
 
 const std::vector<std::string>& SoakModel::keys() {
-    static const std::vector<std::string> all = {"title",
-                                                 "headline",
-                                                 "caption",
-                                                 "keywords",
-                                                 "rating",
-                                                 "cityCreated",
-                                                 "latitude",
-                                                 "longitude",
-                                                 "altitude",
-                                                 "gpsDateTime",
-                                                 "gpsMapDatum",
-                                                 "gpsVersionID",
-                                                 "dateTimeOriginalComponents"};
+    // Not gpsVersionID: the format adds it to a position that has none.
+    static const std::vector<std::string> all = {
+        "title",    "headline",  "caption",  "keywords",    "rating",      "cityCreated",
+        "latitude", "longitude", "altitude", "gpsDateTime", "gpsMapDatum", "dateTimeOriginalComponents"};
     return all;
 }
 

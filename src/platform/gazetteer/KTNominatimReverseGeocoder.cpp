@@ -2,8 +2,9 @@
 
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
-#include "platform/gazetteer/HTTPGet.h"
 #include "platform/gazetteer/NominatimAnswer.h"
+#include "platform/network/HTTPFailureText.h"
+#include "platform/network/HTTPGet.h"
 
 #include <QLocale>
 #include <condition_variable>
@@ -42,32 +43,13 @@ KTPlaceAnswer stopped() {
     return {{}, KTLocalizedString("The search for places was cancelled.")};
 }
 
-std::string secondsText(std::chrono::milliseconds time) {
-    return QLocale().toString(std::chrono::duration<double>(time).count(), 'g', 3).toStdString();
-}
-
 KTPlaceAnswer answerForFailure(const HTTPAnswer& answer, const std::string& server,
                                std::chrono::milliseconds timeout) {
-    switch (answer.failure) {
-    case Failure::stopped:
+    if (answer.failure == Failure::stopped)
         return stopped();
-    case Failure::timedOut:
-        return unavailable("%@ did not answer within %@ seconds.", {server, secondsText(timeout)});
-    case Failure::tooLarge:
+    if (answer.failure == Failure::tooLarge)
         return unavailable("%@ sent far more than place names.", {server});
-    case Failure::redirectedElsewhere:
-        return unavailable("%@ redirects to %@, which was not asked.", {server, answer.detail});
-    case Failure::hostNotFound:
-        return unavailable("%@ cannot be found. Is there a connection to the network?", {server});
-    case Failure::refused:
-        return unavailable("%@ does not accept connections.", {server});
-    case Failure::closedEarly:
-        return unavailable("%@ broke off before its answer was complete.", {server});
-    case Failure::notSecure:
-        return unavailable("A secure connection to %@ is not possible: %@.", {server, answer.detail});
-    default:
-        return unavailable("%@ cannot be reached: %@.", {server, answer.detail});
-    }
+    return {{}, HTTPFailureText(answer, server, timeout), true};
 }
 
 KTPlaceAnswer answerForStatus(int status, const std::string& server) {

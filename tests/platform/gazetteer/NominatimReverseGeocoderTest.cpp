@@ -1,6 +1,6 @@
 #include "platform/gazetteer/KTNominatimReverseGeocoder.h"
 
-#include "LoopbackServer.h"
+#include "tests/support/LoopbackServer.h"
 #include "platform/common/KTText.h"
 
 #include <QLocale>

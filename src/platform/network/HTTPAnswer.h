@@ -1,5 +1,6 @@
 #pragma once
 #include <chrono>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -19,8 +20,9 @@ struct HTTPAnswer {
     };
 
     Failure failure = Failure::none;
-    std::string detail = {}; ///< for the user
-    int status = 0;          ///< 0 when none arrived
+    std::string detail = {};                         ///< for the user
+    int status = 0;                                  ///< 0 when none arrived
+    std::map<std::string, std::string> headers = {}; ///< names in lower case, the last of several alike
     std::string body = {};
     std::optional<std::chrono::seconds> retryAfter = {}; ///< how long the server asks to be left alone
 };

@@ -1,4 +1,4 @@
-#include "platform/gazetteer/HTTPGet.h"
+#include "platform/network/HTTPClient.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
@@ -18,6 +18,8 @@ QNetworkRequest requestFor(const HTTPGet& get, const QUrl& url) {
     QNetworkRequest request(url);
     request.setRawHeader("User-Agent", QByteArray::fromStdString(get.userAgent));
     request.setRawHeader("Accept-Language", QByteArray::fromStdString(get.language));
+    for (const auto& [name, value] : get.headers)
+        request.setRawHeader(QByteArray::fromStdString(name), QByteArray::fromStdString(value));
     for (auto attribute :
          {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
           QNetworkRequest::AuthenticationReuseAttribute})
@@ -52,12 +54,12 @@ Failure failureOf(QNetworkReply::NetworkError error) {
     }
 }
 
-/// One request on its way. Manager and reply live for this request alone, since they may die on no other
-/// thread than the one that asks, which may end at any time between two requests.
+/// One request on its way.
 class Exchange {
 public:
-    Exchange(const HTTPGet& theGet, Clock::time_point latest, const std::stop_token& stopToken)
-        : get(theGet), deadline(latest), stop(stopToken) {}
+    Exchange(QNetworkAccessManager& accessManager, const HTTPGet& theGet, Clock::time_point latest,
+             const std::stop_token& stopToken)
+        : manager(accessManager), get(theGet), deadline(latest), stop(stopToken) {}
 
     HTTPAnswer perform(const QUrl& url);
     /// Where the answer redirects to; empty where it does not. As the server wrote it.
@@ -69,11 +71,11 @@ private:
     void end(Failure failure);
     void finish();
 
+    QNetworkAccessManager& manager;
     const HTTPGet& get;
     const Clock::time_point deadline;
     const std::stop_token& stop;
     HTTPAnswer answer;
-    QNetworkAccessManager manager;
     std::unique_ptr<QNetworkReply> reply;
 };
 
@@ -124,6 +126,8 @@ void Exchange::finish() {
     if (answer.failure != Failure::none)
         return;
     answer.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    for (const auto& [name, value] : reply->rawHeaderPairs())
+        answer.headers[name.toLower().toStdString()] = value.trimmed().toStdString();
     bool hasSeconds = false;
     const int seconds = reply->rawHeader("Retry-After").trimmed().toInt(&hasSeconds);
     if (hasSeconds && seconds >= 0)
@@ -136,11 +140,15 @@ void Exchange::finish() {
 
 } // namespace
 
-HTTPAnswer HTTPGet::perform(const std::stop_token& stop) const {
-    const Clock::time_point deadline = Clock::now() + timeout;
-    QUrl place = QUrl::fromEncoded(QByteArray::fromStdString(url));
+HTTPClient::HTTPClient() : manager(std::make_unique<QNetworkAccessManager>()) {}
+
+HTTPClient::~HTTPClient() = default;
+
+HTTPAnswer HTTPClient::get(const HTTPGet& request, const std::stop_token& stop) {
+    const Clock::time_point deadline = Clock::now() + request.timeout;
+    QUrl place = QUrl::fromEncoded(QByteArray::fromStdString(request.url));
     for (int redirects = 0;; ++redirects) {
-        Exchange exchange(*this, deadline, stop);
+        Exchange exchange(*manager, request, deadline, stop);
         HTTPAnswer answer = exchange.perform(place);
         if (answer.failure != Failure::none || exchange.redirectTarget().isEmpty())
             return answer;

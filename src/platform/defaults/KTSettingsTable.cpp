@@ -113,6 +113,18 @@ constexpr KTSetting kSettings[] = {
     {"previousMapLatitude", Number},
     {"previousMapLongitude", Number},
     {"previousMapScale", Number},
+
+    // Map tiles from a server
+    {"mapTilesContact", Text, ""},
+    {"mapTilesPattern", Text, ""},
+    {"mapTilesSubdomains", Text, ""},
+    {"mapTilesKey", Text, ""},
+    {"mapTilesCountFromSouth", Boolean, "false"},
+    {"mapTilesMinimumZoom", Unsigned, "0"},
+    {"mapTilesMaximumZoom", Unsigned, "19"},
+    {"mapTilesSize", Unsigned, "256"},
+    {"mapTilesAttribution", Text, ""},
+    {"mapTilesCacheMegabytes", Unsigned, "500"},
 };
 // clang-format on
 

@@ -188,6 +188,13 @@ std::vector<std::vector<KTGeoPoint>> KTTrackStore::segments(std::int64_t track) 
                              [&](TrackDatabase& database) { return segmentsOfTrack(database, track); });
 }
 
+std::vector<std::vector<KTTrackPosition>> KTTrackStore::positions(std::int64_t track) const {
+    std::vector<std::vector<KTTrackPosition>> segments;
+    connections->readLong("positions",
+                          [&](TrackDatabase& database) { segments = positionsOfTrack(database, track); });
+    return segments;
+}
+
 std::string KTTrackStore::exportGPX(const std::vector<std::int64_t>& ids, std::ostream& out) const {
     try {
         // An export takes long; a connection of its own leaves the searches alone.

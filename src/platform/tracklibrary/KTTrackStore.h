@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/tracklibrary/KTTrack.h"
 #include "platform/tracklibrary/KTTrackImportResult.h"
+#include "platform/tracklibrary/KTTrackPosition.h"
 #include "platform/tracklibrary/TrackFileContent.h"
 #include "platform/tracklibrary/TrackFileSink.h"
 
@@ -47,6 +48,9 @@ public:
     std::vector<KTWaypoint> waypointsBetween(KTInstant first, KTInstant last) const;
     /// The points of one listed entry, in the order of the file; empty after a logged error.
     std::vector<std::vector<KTGeoPoint>> segments(std::int64_t track) const;
+
+    /// The same points as doubles, for maps: those with a position. Reads through a connection of its own.
+    std::vector<std::vector<KTTrackPosition>> positions(std::int64_t track) const;
 
     /// Writes the listed entries @p ids as one GPX 1.1 file, streaming. Points without position are left out.
     /// Returns an error for users, else an empty text; with an unknown id nothing is written.

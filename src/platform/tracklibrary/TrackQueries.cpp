@@ -97,6 +97,22 @@ std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, st
     return segments;
 }
 
+std::vector<std::vector<KTTrackPosition>> positionsOfTrack(TrackDatabase& database, std::int64_t track) {
+    std::vector<std::vector<KTTrackPosition>> segments;
+    auto find = database.statement("SELECT date, longitude, latitude FROM point "
+                                   "WHERE id BETWEEN ? AND ? AND latitude IS NOT NULL ORDER BY id");
+    for (PointRange range : segmentRanges(database, track)) {
+        auto& positions = segments.emplace_back();
+        find->reset();
+        find->bind(1, range.first);
+        find->bind(2, range.last);
+        while (find->executeStep())
+            positions.push_back({{find->getColumn(1).getDouble(), find->getColumn(2).getDouble()},
+                                 instantFromColumn(find->getColumn(0))});
+    }
+    return segments;
+}
+
 void visitPositionsOfTrack(TrackDatabase& database, std::int64_t track,
                            const std::function<void(double longitude, double latitude, bool)>& visit) {
     // Coordinates with more digits than a double holds are texts.

@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/tracklibrary/KTTrack.h"
+#include "platform/tracklibrary/KTTrackPosition.h"
 
 #include <functional>
 #include <iosfwd>
@@ -13,6 +14,8 @@ std::vector<KTTrack> listTracks(TrackDatabase& database);
 std::vector<KTWaypoint> waypointsOfTrack(TrackDatabase& database, std::int64_t track);
 std::vector<KTWaypoint> waypointsOfTime(TrackDatabase& database, KTInstant first, KTInstant last);
 std::vector<std::vector<KTGeoPoint>> segmentsOfTrack(TrackDatabase& database, std::int64_t track);
+/// Its points with a position, for maps.
+std::vector<std::vector<KTTrackPosition>> positionsOfTrack(TrackDatabase& database, std::int64_t track);
 /// Passes the positions of a listed entry's points and waypoints to @p visit, with true for the first of a
 /// segment.
 void visitPositionsOfTrack(TrackDatabase& database, std::int64_t track,

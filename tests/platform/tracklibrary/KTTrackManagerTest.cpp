@@ -86,7 +86,20 @@ TEST_F(KTTrackManagerTest, ListsWhatItImported) {
     EXPECT_EQ(tracks[2].lastDate, instant(1401616800025));
     EXPECT_EQ(tracks[0].waypointCount, 1);
     EXPECT_EQ(manager.store().waypoints(tracks[0].id).at(0).comment, "warm\ndry");
-    EXPECT_EQ(manager.store().segments(tracks[2].id).size(), 2u);
+    const auto segments = manager.store().segments(tracks[2].id);
+    const auto positions = manager.store().positions(tracks[2].id);
+    EXPECT_EQ(segments.size(), 2u);
+    ASSERT_EQ(positions.size(), segments.size());
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        std::vector<KTGeoPoint> placed = segments[i];
+        std::erase_if(placed, [](const KTGeoPoint& point) { return !point.latitude; });
+        ASSERT_EQ(positions[i].size(), placed.size());
+        for (std::size_t k = 0; k < placed.size(); ++k) {
+            EXPECT_EQ(positions[i][k].date, placed[k].date);
+            EXPECT_EQ(positions[i][k].position.x, placed[k].longitude->toDouble());
+            EXPECT_EQ(positions[i][k].position.y, placed[k].latitude->toDouble());
+        }
+    }
     EXPECT_EQ(heard, "KTTrackManagerDidAddNewImportSource 4 4\n");
 }
 

@@ -104,6 +104,7 @@ public:
     bool allowsInteraction() const override { return false; }
     std::shared_ptr<const KTGeometry> geometry() const override;
     std::shared_ptr<const KTStyle> style() const override;
+    KTFeatureValues featureValues() const override { return {.isProvisional = true, .pointType = type}; }
     KTSpatialObjectController* objectOwner() const override { return owner; }
     void setObjectOwner(KTSpatialObjectController* newOwner) override { owner = newOwner; }
 

@@ -226,6 +226,8 @@ public:
     std::shared_ptr<const KTGeometry> geometry() const override;
     void setGeometry(std::shared_ptr<const KTGeometry> newGeometry);
     std::shared_ptr<const KTStyle> style() const override;
+    /// The place is provisional while a coordinate of it is still to be written.
+    KTFeatureValues featureValues() const override;
     KTSpatialObjectController* objectOwner() const override { return owner; }
     void setObjectOwner(KTSpatialObjectController* newOwner) override { owner = newOwner; }
     /// The geodesic from the place of the camera to the place shown, a point each kilometre; null without
@@ -279,6 +281,7 @@ private:
 
     // Presentation (KTPhotoPresentation.cpp)
     std::optional<KTMapPoint> positionOf(std::string_view longitude, std::string_view latitude) const;
+    bool isPositionPending() const; // the mutex must be held
 
     // Geotagging (KTPhotoLocation.cpp)
     struct PlaceName;

@@ -71,6 +71,29 @@ std::shared_ptr<const KTStyle> KTPhoto::style() const {
     return style;
 }
 
+bool KTPhoto::isPositionPending() const {
+    return unsaved && std::ranges::any_of(std::array{"latitude", "longitude"}, [this](std::string_view key) {
+               const KTMetadataField* field = KTPhotoPropertyTable::propertyForKey(key)->field;
+               return field && std::ranges::any_of(sources, [&](const KTMetadataSource& source) {
+                          return hasPendingKeys(*field, source.changes);
+                      });
+           });
+}
+
+KTFeatureValues KTPhoto::featureValues() const {
+    static const std::size_t direction = KTPhotoPropertyTable::propertyForKey("imageDirection")->place,
+                             view = KTPhotoPropertyTable::propertyForKey("fieldOfView")->place;
+    const auto degrees = [this](std::size_t place) {
+        const auto number = values[place].number();
+        return number ? std::optional(number->toDouble()) : std::nullopt;
+    };
+    std::lock_guard guard(mutex);
+    return {.imageDirection = degrees(direction),
+            .fieldOfView = degrees(view),
+            .placeShown = positionOf("longitudeShown", "latitudeShown"),
+            .isProvisional = isPositionPending()};
+}
+
 std::shared_ptr<const KTGeometry> KTPhoto::geometry() const {
     std::lock_guard guard(mutex);
     if (!shape) {

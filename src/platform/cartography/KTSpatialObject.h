@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/cartography/KTFeatureValues.h"
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -27,6 +29,8 @@ public:
     virtual std::shared_ptr<const KTGeometry> geometry() const = 0;
     /// How it is drawn; never null.
     virtual std::shared_ptr<const KTStyle> style() const = 0;
+    /// What its symbols show.
+    virtual KTFeatureValues featureValues() const { return {}; }
 
     /// The controller of the layer that shows the feature, set by that layer and not kept alive; null for
     /// none.

@@ -1,12 +1,13 @@
 #include "platform/defaults/KTUserDefaults.h"
 
 #include <QApplication>
+#include <QStandardPaths>
 #include <gtest/gtest.h>
 
-/// Tests never see, or touch, the settings of whoever runs them.
+/// Tests never see, or touch, the screen and the settings of whoever runs them.
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) // the build lists the tests, and has no display
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
     KTUserDefaults::useThrowAwayDomain();
     testing::InitGoogleTest(&argc, argv);

@@ -15,8 +15,11 @@ void MainMenuBar::update() {
     if (bringUpToDate(actions(), items))
         return;
     clear();
-    for (const KTMenuItem& item : items)
-        fill(*addMenu(QString::fromStdString(item.title)), item.submenu);
+    for (const KTMenuItem& item : items) {
+        QMenu* const menu = addMenu(QString());
+        show(*menu->menuAction(), item);
+        fill(*menu, item.submenu);
+    }
 }
 
 /// False when the actions do not fit the items, entry by entry; some may have

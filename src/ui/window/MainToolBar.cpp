@@ -56,7 +56,8 @@ QToolButton* MainToolBar::addButton(const QString& text, const char* icon, const
     button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
     button->setToolTip(tip);
     button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QToolButton::clicked, this, [run = std::move(command)] { run(); });
+    if (command)
+        connect(button, &QToolButton::clicked, this, [run = std::move(command)] { run(); });
     addWidget(button);
     return button;
 }
@@ -82,7 +83,6 @@ void MainToolBar::addPaneButton(WaymarkPane pane, const QString& text, const cha
         return;
     QToolButton* const button = addButton(text, icon, tip, {});
     button->setCheckable(true);
-    button->disconnect(this);
     connect(button, &QToolButton::toggled, this,
             [this, pane](bool isOn) { controller.setPaneShown(pane, isOn); });
     auto check = [this, pane, button] { button->setChecked(controller.isPaneShown(pane)); };

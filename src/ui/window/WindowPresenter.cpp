@@ -66,6 +66,8 @@ void prepare(QFileDialog& dialog, const KTFilePanel& panel) {
         dialog.selectFile(QString::fromStdString(panel.proposedName));
         break;
     }
+    if (!panel.title.empty())
+        dialog.setWindowTitle(QString::fromStdString(panel.title));
     if (!panel.allowedFileTypes.empty())
         dialog.setNameFilter(filterOf(panel.allowedFileTypes));
     if (!panel.buttonText.empty())

@@ -44,13 +44,7 @@ PreferencesWindow::PreferencesWindow(AppPreferencesWindowController& preferences
           {preferencesController, "isWindowVisible",
            [&preferencesController] { return preferencesController.isWindowVisible(); },
            [&preferencesController](bool isVisible) { preferencesController.setWindowVisible(isVisible); }}),
-      controller(preferencesController), presenter(this) {
-    controller.setPresenter(&presenter);
-}
-
-PreferencesWindow::~PreferencesWindow() {
-    controller.setPresenter(nullptr);
-}
+      controller(preferencesController) {}
 
 void PreferencesWindow::makeContent() {
     auto* const list = new QListWidget;

@@ -1,6 +1,5 @@
 #pragma once
 #include "app/AppPreferencesWindowController.h"
-#include "ui/window/WindowPresenter.h"
 #include "ui/windows/ToolWindow.h"
 
 class QFormLayout;
@@ -14,7 +13,6 @@ class PreferencesWindow : public ToolWindow {
     Q_OBJECT
 public:
     explicit PreferencesWindow(AppPreferencesWindowController& preferencesController);
-    ~PreferencesWindow() override;
 
 protected:
     void makeContent() override;
@@ -27,6 +25,5 @@ private:
     void addMapStart(QFormLayout& form);
 
     AppPreferencesWindowController& controller;
-    WindowPresenter presenter;
     std::vector<KTObservable::Observation> observations;
 };

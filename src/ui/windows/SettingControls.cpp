@@ -27,6 +27,10 @@ constexpr Control kControls[] = {
     {"distanceUnits", "Units:", "For distances and heights", "Kilometres and metres|Miles and feet|Nautical miles and metres"},
     {"applicationShouldAlwaysUsePhotosTimeZoneDefault", "Show all dates in the time zone of the camera clock", "Else in the computer's"},
 
+    {"defaultPhotoView", "Show photos as:", "", "Thumbnails|Table"},
+    {"defaultPhotoCellSize", "Size of the thumbnails:", "In pixels"},
+    {"shouldIgnorePreviouslyTaggedPhotos", "Leave alone photos that have a location", "In batches"},
+
     {"defaultShouldSaveAltitude", "Write the altitude of track points", "Where the track has one"},
     {"defaultShouldOverwriteAltitude", "Replace an altitude that a photo has", ""},
     {"defaultLatLonCreatedShouldReverseGeocodeLocationCreated", "Look up where the photo was taken", "Writes the names of city, state and country with the position"},

@@ -23,11 +23,9 @@ TrackLibraryWindow::TrackLibraryWindow(KTTrackPickerController& pickerController
                  {pickerController, "isWindowVisible",
                   [&pickerController] { return pickerController.isWindowVisible(); },
                   [&pickerController](bool isVisible) { pickerController.setWindowVisible(isVisible); }}),
-      controller(pickerController), presenter(this) {
+      controller(pickerController) {
     setAcceptDrops(true);
 }
-
-TrackLibraryWindow::~TrackLibraryWindow() = default;
 
 void TrackLibraryWindow::makeContent() {
     auto* const columns = new QSplitter;

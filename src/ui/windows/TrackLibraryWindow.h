@@ -1,5 +1,4 @@
 #pragma once
-#include "ui/window/WindowPresenter.h"
 #include "ui/windows/ToolWindow.h"
 
 class KTTrackPickerController;
@@ -13,7 +12,6 @@ class TrackLibraryWindow : public ToolWindow {
     Q_OBJECT
 public:
     explicit TrackLibraryWindow(KTTrackPickerController& pickerController);
-    ~TrackLibraryWindow() override;
 
 protected:
     void makeContent() override;
@@ -29,7 +27,6 @@ private:
     void showImport();
 
     KTTrackPickerController& controller;
-    WindowPresenter presenter;
     QListWidget* sources = nullptr;
     QTreeView* tracks = nullptr;
     QSortFilterProxyModel* sorted = nullptr;

@@ -1,0 +1,70 @@
+#include "ui/application/ApplicationUserInterface.h"
+
+#include "ui/window/MainWindow.h"
+#include "ui/windows/AboutBox.h"
+#include "ui/windows/DateToolsWindow.h"
+#include "ui/windows/OperationLogWindow.h"
+#include "ui/windows/PreferencesWindow.h"
+#include "ui/windows/TagDetailsWindow.h"
+#include "ui/windows/TrackLibraryWindow.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLibraryInfo>
+#include <QVersionNumber>
+
+ApplicationUserInterface::ApplicationUserInterface()
+    : alone(std::make_unique<WindowPresenter>()), thumbnails(std::make_unique<KTThumbnailService>()) {}
+
+ApplicationUserInterface::~ApplicationUserInterface() = default;
+
+std::unique_ptr<WaymarkWindow>
+ApplicationUserInterface::makeWaymarkWindow(WaymarkWindowController& controller) {
+    return std::make_unique<MainWindow>(controller, *thumbnails);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makePreferencesWindow(AppPreferencesWindowController& controller) {
+    return std::make_unique<PreferencesWindow>(controller);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makeTagDetailsWindow(KTTagDetailsWindowController& controller) {
+    return std::make_unique<TagDetailsWindow>(controller);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makePhotoOperationWindow(KTPhotoOperationWindowController& controller) {
+    return std::make_unique<OperationLogWindow>(controller);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makeTrackPickerWindow(KTAppTrackPickerController& controller) {
+    return std::make_unique<TrackLibraryWindow>(controller);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makeDateToolsWindow(KTDateToolsWindowController& controller) {
+    return std::make_unique<DateToolsWindow>(controller);
+}
+
+void ApplicationUserInterface::showAboutBox() {
+    (new AboutBox(QApplication::activeWindow()))->open();
+}
+
+std::string ApplicationUserInterface::clipboardText() {
+    return QApplication::clipboard()->text().toStdString();
+}
+
+void ApplicationUserInterface::setClipboardText(const std::string& text) {
+    QApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+void ApplicationUserInterface::terminate() {
+    QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+}
+
+int ApplicationUserInterface::toolkitVersion() const {
+    const QVersionNumber version = QLibraryInfo::version();
+    return version.majorVersion() * 10000 + version.minorVersion() * 100 + version.microVersion();
+}

@@ -1,0 +1,27 @@
+#pragma once
+#include "app/WaymarkUserInterface.h"
+#include "app/thumbnails/KTThumbnailService.h"
+
+/// The windows of the application.
+class ApplicationUserInterface : public WaymarkUserInterface {
+public:
+    ApplicationUserInterface();
+    ~ApplicationUserInterface() override;
+
+    std::unique_ptr<WaymarkWindow> makeWaymarkWindow(WaymarkWindowController& controller) override;
+    Window makePreferencesWindow(AppPreferencesWindowController& controller) override;
+    Window makeTagDetailsWindow(KTTagDetailsWindowController& controller) override;
+    Window makePhotoOperationWindow(KTPhotoOperationWindowController& controller) override;
+    Window makeTrackPickerWindow(KTAppTrackPickerController& controller) override;
+    Window makeDateToolsWindow(KTDateToolsWindowController& controller) override;
+    void showAboutBox() override;
+    KTPresenter& presenter() override { return *alone; }
+    std::string clipboardText() override;
+    void setClipboardText(const std::string& text) override;
+    void terminate() override;
+    int toolkitVersion() const override;
+
+private:
+    std::unique_ptr<KTPresenter> alone; // asks where there is no window
+    std::unique_ptr<KTThumbnailService> thumbnails;
+};

@@ -11,6 +11,8 @@ public:
     virtual ~Command() = default;
     /// Does the work and prints the result; returns the exit status.
     virtual int run(CommandSession& session) = 0;
+    /// Whether it needs fonts, and so an application with a display, be it offscreen.
+    virtual bool drawsPictures() const { return false; }
 };
 
 /// A verb and the part of the parser that knows whether it was asked for.
@@ -32,8 +34,10 @@ void addGeotagCommand(CLI::App& app, CommandList& commands);
 void addPlaceCommand(CLI::App& app, CommandList& commands);
 void addZoneCommand(CLI::App& app, CommandList& commands);
 void addDateCommands(CLI::App& app, CommandList& commands); // shift, copy-date, set-date
+void addMapCommand(CLI::App& app, CommandList& commands);
 void addTracksCommands(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
 
-/// Parses the arguments and runs the command; the exit status of the process.
+/// Parses the arguments, makes the application that the command needs and runs it; the exit status of the
+/// process.
 int runCommandLine(int argc, char** argv);

@@ -6,8 +6,10 @@
 #include "platform/defaults/KTSettingsTable.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/desktop/KTAboutText.h"
+#include "platform/gazetteer/KTGazetteer.h"
 
 #include <CLI/CLI.hpp>
+#include <QGuiApplication>
 
 namespace {
 
@@ -66,6 +68,20 @@ void apply(const GlobalOptions& options, CommandSession& session) {
                                                      : CommandSession::Progress::Auto;
 }
 
+int runWithApplication(Command& command, CommandSession& session, int argc, char** argv) {
+    std::unique_ptr<QCoreApplication> application;
+    if (command.drawsPictures()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    const struct Ending {
+        ~Ending() { KTGazetteer::sharedGazetteer().close(); }
+    } ending; // while there still is an application
+    return command.run(session);
+}
+
 } // namespace
 
 int runCommandLine(int argc, char** argv) {
@@ -82,6 +98,7 @@ int runCommandLine(int argc, char** argv) {
     addPlaceCommand(app, commands);
     addZoneCommand(app, commands);
     addDateCommands(app, commands);
+    addMapCommand(app, commands);
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
     try {
@@ -89,7 +106,7 @@ int runCommandLine(int argc, char** argv) {
         apply(options, session);
         for (const ParsedCommand& entry : commands)
             if (entry.parser->parsed())
-                return entry.command->run(session);
+                return runWithApplication(*entry.command, session, argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? kExitDone : kExitUsage;
     } catch (const UsageError& error) {

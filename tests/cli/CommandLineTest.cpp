@@ -393,3 +393,29 @@ TEST_F(CommandLine, DateToolsChangeSaveAndPrint) {
                                          {"shift", "soon", "."}})
         EXPECT_EQ(run(arguments).status, 2) << arguments.join(" ").toStdString();
 }
+
+TEST_F(CommandLine, MapDrawsPhotosAndTracksWithoutADisplay) {
+    ASSERT_EQ(run({"demo", "trip"}).status, 0);
+    const auto sizeOf = [](const std::string& png) {
+        const auto number = [&](std::size_t at) {
+            return static_cast<unsigned char>(png.at(at)) * 256 + static_cast<unsigned char>(png.at(at + 1));
+        };
+        return std::pair(number(18), number(22)); // the low halves of the header's width and height
+    };
+    const QStringList all = {"map",     "--out", "all.png", "--size",        "600x400",
+                             "--scale", "2",     "--track", "trip/walk.gpx", "trip/photos"};
+    const Result drawn = run(all);
+    ASSERT_EQ(drawn.status, 0) << drawn.errors;
+    const std::string picture = contentOf(folder / "all.png");
+    EXPECT_EQ(picture.substr(1, 3), "PNG");
+    EXPECT_EQ(sizeOf(picture), std::pair(1200, 800));
+    ASSERT_EQ(run(QStringList(all) << "--dark").status, 0);
+    EXPECT_NE(contentOf(folder / "all.png"), picture);
+
+    EXPECT_EQ(run({"map", "--out", "world.png", "--size", "320x200"}).status, 0);
+    EXPECT_EQ(sizeOf(contentOf(folder / "world.png")), std::pair(320, 200));
+    EXPECT_EQ(run({"map", "--out", "x.png", "--size", "320"}).status, 2);
+    EXPECT_EQ(run({"map", "--out", "x.png", "--tiles", "nobody's"}).status, 2);
+    EXPECT_EQ(run({"map", "--out", "none/x.png"}).status, 1);
+    EXPECT_EQ(run({"map", "--out", "x.png", "none.jpg"}).status, 1);
+}

@@ -101,19 +101,9 @@ private:
                 session.failure(result.error);
         std::vector<KTMapTrack> shown;
         for (const KTTrack& track : manager.store().tracks())
-            shown.push_back({track.id, track.name, lineOf(manager.store().segments(track.id))});
+            shown.push_back(
+                {track.id, track.name, std::make_shared<KTTrackLine>(manager.store().positions(track.id))});
         layer.setTracks(std::move(shown));
-    }
-
-    static std::shared_ptr<const KTTrackLine> lineOf(const std::vector<std::vector<KTGeoPoint>>& segments) {
-        std::vector<std::vector<KTTrackLinePoint>> line;
-        for (const auto& segment : segments) {
-            auto& part = line.emplace_back();
-            for (const KTGeoPoint& point : segment)
-                if (point.latitude && point.longitude)
-                    part.push_back({{point.longitude->toDouble(), point.latitude->toDouble()}, point.date});
-        }
-        return std::make_shared<KTTrackLine>(line);
     }
 
     /// All photos and tracks; the default place where there are none.

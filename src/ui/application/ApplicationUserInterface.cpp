@@ -1,5 +1,6 @@
 #include "ui/application/ApplicationUserInterface.h"
 
+#include "geotagging/KTAppTrackPickerController.h"
 #include "ui/window/MainWindow.h"
 #include "ui/windows/AboutBox.h"
 #include "ui/windows/DateToolsWindow.h"

@@ -17,28 +17,39 @@ using Records = std::vector<KTImportRecord>;
 
 } // namespace
 
-/// One import. It lives as long as an operation of it, or a photo on its way to the main thread, and then
-/// tells that it has ended.
+/// One import. It lives as long as its reading, or a photo on its way to the main thread, and then tells that
+/// it has ended.
 class KTPhotoManager::ImportRun {
 public:
     explicit ImportRun(ImportHandlers importHandlers) : handlers(std::move(importHandlers)) {}
     ~ImportRun() {
-        readAhead.reset(); // waits for its threads: at the end of an import nothing is being read any more
         if (handlers.didEnd)
             KTPerformOnMainThread(std::move(handlers.didEnd));
     }
 
+    ImportHandlers handlers;
+};
+
+namespace {
+
+/// Reads the photos of one import. It lives as long as an operation of it, no longer: photos on their way to
+/// the main thread may wait to the end of the program, when nothing may be read any more.
+class ImportReading {
+public:
+    /// @p importRun ends after the reading.
+    explicit ImportReading(std::shared_ptr<void> importRun) : run(std::move(importRun)) {}
+
     /// The next photo; in the order of the records.
     KTPhotoReadAhead::Result read(const KTImportRecord& record);
 
-    ImportHandlers handlers;
     std::vector<fs::path> filesToRead; ///< of the records that may be read ahead
 
 private:
-    std::optional<KTPhotoReadAhead> readAhead; // begins with the first operation
+    const std::shared_ptr<void> run;
+    std::optional<KTPhotoReadAhead> readAhead; // begins with the first operation, waits for its threads
 };
 
-KTPhotoReadAhead::Result KTPhotoManager::ImportRun::read(const KTImportRecord& record) {
+KTPhotoReadAhead::Result ImportReading::read(const KTImportRecord& record) {
     if (record.mayBeReadAhead()) {
         if (!readAhead)
             readAhead.emplace(std::move(filesToRead));
@@ -50,8 +61,6 @@ KTPhotoReadAhead::Result KTPhotoManager::ImportRun::read(const KTImportRecord& r
                               {.createsSidecarOfRawFile = record.createsSidecar, .log = &result.failure});
     return result;
 }
-
-namespace {
 
 fs::path resolved(const fs::path& file) {
     std::error_code error;
@@ -171,14 +180,15 @@ void KTPhotoManager::queueImport(const std::shared_ptr<ImportRun>& run, Records 
     if (records.empty())
         return;
     std::vector<std::shared_ptr<KTOperation>> toRun;
+    const auto reading = std::make_shared<ImportReading>(run);
     for (KTImportRecord& record : records) {
         record.createsSidecar =
             createsSidecars && KTEqualIgnoringCase(record.photoURL.extension().native(), ".crw");
         if (record.mayBeReadAhead())
-            run->filesToRead.push_back(record.photoURL);
-        toRun.push_back(
-            std::make_shared<KTOperation>([weak = std::weak_ptr(self), run, record = std::move(record)] {
-                KTPhotoReadAhead::Result result = run->read(record);
+            reading->filesToRead.push_back(record.photoURL);
+        toRun.push_back(std::make_shared<KTOperation>(
+            [weak = std::weak_ptr(self), run, reading, record = std::move(record)] {
+                KTPhotoReadAhead::Result result = reading->read(record);
                 KTPerformOnMainThread([weak, run, file = record.listedURL, result = std::move(result)] {
                     if (const auto alive = weak.lock())
                         (*alive)->finishReading(*run, file, result);

@@ -32,17 +32,18 @@ KTGeotaggingController::~KTGeotaggingController() {
 void KTGeotaggingController::setup() {
     tagger = std::make_unique<KTGeotagger>(
         photos, KTAsynchronousWaymark::TrackManagers{&picker.trackManager()}, batches);
-    photosObservation = photos.observe([this](const KTChange& change) {
+    photosObservation = photos.observe([alive = std::weak_ptr(self)](const KTChange& change) {
         if (change.key == "selectedPhotoIndexes" && !change.isPrior)
-            updateSoon(false);
+            updateSoon(alive, false);
     });
-    geotaggerObservation = tagger->observe([this](const KTChange& change) {
+    // Runs on the geotagger's queue, perhaps while the controller ends.
+    geotaggerObservation = tagger->observe([alive = std::weak_ptr(self)](const KTChange& change) {
         if (change.isPrior)
             return;
         if (change.key == "hasLoadedValidTracks")
-            updateSoon(false);
+            updateSoon(alive, false);
         else if (change.key == "batchPointArray" || change.key == "standardPointArray")
-            updateSoon(true);
+            updateSoon(alive, true);
     });
     tagger->setup();
     tagger->setShouldActivelyGeotag(isShowing);
@@ -59,8 +60,8 @@ void KTGeotaggingController::tearDown() {
 
 /// The geotagger announces its computations on a queue of its own, on which
 /// nobody may wait.
-void KTGeotaggingController::updateSoon(bool ofPoints) {
-    KTPerformOnMainThread([ofPoints, alive = std::weak_ptr(self)] {
+void KTGeotaggingController::updateSoon(const std::weak_ptr<KTGeotaggingController*>& alive, bool ofPoints) {
+    KTPerformOnMainThread([ofPoints, alive] {
         const auto controller = alive.lock();
         if (!controller || !(*controller)->geotaggerObservation.isObserving())
             return;

@@ -129,7 +129,7 @@ public:
     bool hasSelectedWaypoint() const;
 
 private:
-    void updateSoon(bool ofPoints);
+    static void updateSoon(const std::weak_ptr<KTGeotaggingController*>& alive, bool ofPoints);
     void updateMapFunctionsEnabledStatus();
     void selectNearPhotosAndRecentImportsInTrackPicker();
     Points targetPoints() const;

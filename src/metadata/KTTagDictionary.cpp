@@ -14,7 +14,8 @@ struct TextHash {
 
 const std::string* pooledText(std::string_view text) {
     static std::shared_mutex mutex;
-    static std::unordered_set<std::string, TextHash, std::equal_to<>> pool; // its elements never move
+    using Pool = std::unordered_set<std::string, TextHash, std::equal_to<>>;
+    static Pool& pool = *new Pool; // its elements never move; used until the last static object is gone
     {
         std::shared_lock guard(mutex);
         if (auto known = pool.find(text); known != pool.end())

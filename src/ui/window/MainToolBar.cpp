@@ -83,7 +83,7 @@ void MainToolBar::addPaneButton(WaymarkPane pane, const QString& text, const cha
         return;
     QToolButton* const button = addButton(text, icon, tip, {});
     button->setCheckable(true);
-    connect(button, &QToolButton::toggled, this,
+    connect(button, &QToolButton::clicked, this,
             [this, pane](bool isOn) { controller.setPaneShown(pane, isOn); });
     auto check = [this, pane, button] { button->setChecked(controller.isPaneShown(pane)); };
     observations.push_back(observeFor(this, controller, "shownPanes", check));

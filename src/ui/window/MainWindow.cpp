@@ -80,7 +80,6 @@ void MainWindow::showOrHide() {
 }
 
 void MainWindow::setUp() {
-    isSetUp = true;
     WaymarkAppController& app = controller.appController();
     photoPane =
         new PhotoPane(*controller.photoController(), thumbnails,
@@ -108,6 +107,7 @@ void MainWindow::setUp() {
     layout->addWidget(new WindowStatusBar(*controller.photoManagerToolbarController(), app.photoManager()));
     setCentralWidget(centre);
     new BatchProgressSheet(*controller.batchOperationController(), this);
+    isSetUp = true;
     restoreState();
     showPanes();
 }

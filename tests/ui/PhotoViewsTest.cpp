@@ -32,9 +32,9 @@ protected:
 
     Photo add(const std::string& name, const KTValue::Dictionary& values = {}) {
         const Photo photo = KTPhoto::initWithFile(makePhoto(folder, name));
+        manager.addNewPhoto(photo);
         for (const auto& [key, value] : values)
             photo->setValueForKey(key, value);
-        manager.addNewPhoto(photo);
         return photo;
     }
     void show() {

@@ -1,4 +1,5 @@
 #include "metadata/KTMetadataFieldManager.h"
+#include "photo/KTLinkablePoint.h"
 #include "platform/tracklibrary/KTTrackStore.h"
 #include "tests/soak/Soak.h"
 
@@ -78,10 +79,10 @@ void Soak::editOneProperty(const Photo& photo) {
     case 1:
         return photo->setValueForKey("keywords", KTValue::listOfTexts({word(), word()}));
     case 2:
-        return photo->setValuesForKeysWithDictionary(
-            {{"latitude", degrees(static_cast<std::int64_t>(number(180'000'000)) - 90'000'000)},
-             {"longitude", degrees(static_cast<std::int64_t>(number(360'000'000)) - 180'000'000)}},
-            "Move");
+        return photo->setLocationCreatedFromLinkablePoint(KTLinkablePoint::initWithGeoPoint(
+            {.latitude = degrees(static_cast<std::int64_t>(number(180'000'000)) - 90'000'000),
+             .longitude = degrees(static_cast<std::int64_t>(number(360'000'000)) - 180'000'000)},
+            KTLinkablePointTypeMapPoint));
     default: {
         static constexpr const char* texts[] = {"title", "headline", "caption", "cityCreated"};
         return photo->setValueForKey(texts[number(std::size(texts))], word());

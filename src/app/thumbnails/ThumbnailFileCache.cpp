@@ -42,7 +42,8 @@ QImage readValid(const std::filesystem::path& place, const std::filesystem::path
     if (!facts || image.text("Thumb::MTime") != facts->modified ||
         image.text("Thumb::URI") != QString::fromLatin1(addressOf(file)))
         return {};
-    return image;
+    const QString size = image.text("Thumb::Size"); // tells a change within a second, where it is written
+    return size.isEmpty() || size == facts->size ? image : QImage();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "ui/application/ApplicationLook.h"
 #include "ui/application/ApplicationUserInterface.h"
 #include "ui/application/SingleInstance.h"
+#include "ui/map/AccessibleMap.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false); // the application controller decides
     QApplication::setWindowIcon(QIcon::fromTheme(SingleInstance::kName));
     applyLook(application);
+    AccessibleMap::install();
 
     const SingleInstance::Paths files = filesFrom(argc, argv);
     if (SingleInstance::handedOver(files))

@@ -11,7 +11,8 @@
 namespace {
 
 constexpr int kMargin = 10;
-constexpr std::pair<const char*, const char*> kSources[] = {{"", "Offline Map"}};
+constexpr std::pair<const char*, const char*> kSources[] = {
+    {"", "Offline Map"}, {"openstreetmap", "OpenStreetMap"}, {"custom", "Own Tile Server"}};
 
 QString titleOf(const std::string& source) {
     for (const auto& [name, title] : kSources)

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QRubberBand>
 
 namespace {
 
@@ -21,8 +22,8 @@ KTViewPoint viewPoint(QPointF point) {
 
 MapView::MapView(KTMapController& mapController, MapFeatures mapFeatures, KTThumbnailService& thumbnails,
                  QWidget* parent)
-    : QWidget(parent), map(mapController), shown(std::move(mapFeatures)), mapLayers(map),
-      card(new MapHoverCard(thumbnails, this)) {
+    : QWidget(parent), map(mapController), shown(std::move(mapFeatures)), mapLayers(map, shown),
+      mapPointing(mapLayers, map), card(new MapHoverCard(thumbnails, this)) {
     setAccessibleName(uiText("Map"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -83,6 +84,7 @@ void MapView::comeToRest() {
     isMoving = false;
     mapLayers.compositor().setViewState(map.viewState(), false);
     update();
+    emit itemsMayHaveChanged();
 }
 
 void MapView::zoomBy(double steps) {
@@ -96,28 +98,58 @@ void MapView::mousePressEvent(QMouseEvent* event) {
         return;
     card->show({}, {});
     pressedAt = lastAt = event->position();
+    pressedPhoto = mapPointing.photoAt(viewPoint(pressedAt));
     gesture = Gesture::Undecided;
+}
+
+void MapView::beginGesture(QPointF at) {
+    if (QApplication::keyboardModifiers() & Qt::ShiftModifier) {
+        gesture = Gesture::Select;
+        if (band == nullptr)
+            band = new QRubberBand(QRubberBand::Rectangle, this);
+        band->setGeometry(QRect(pressedAt.toPoint(), at.toPoint()).normalized());
+        band->show();
+    } else if (pressedPhoto) {
+        gesture = Gesture::MoveMarker;
+        setCursor(Qt::CrossCursor);
+    } else {
+        gesture = Gesture::Pan;
+        setCursor(Qt::ClosedHandCursor);
+    }
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     const QPointF at = event->position();
     mapLayers.scaleBar().setShownPosition(map.viewState().position(viewPoint(at)));
     if (gesture == Gesture::Undecided &&
-        (at - pressedAt).manhattanLength() >= QApplication::startDragDistance()) {
-        gesture = Gesture::Pan;
-        setCursor(Qt::ClosedHandCursor);
-    }
+        (at - pressedAt).manhattanLength() >= QApplication::startDragDistance())
+        beginGesture(at);
     if (gesture == Gesture::Pan)
         setPlace(map.viewState().pannedBy(at.x() - lastAt.x(), at.y() - lastAt.y()));
+    else if (gesture == Gesture::Select)
+        band->setGeometry(QRect(pressedAt.toPoint(), at.toPoint()).normalized());
+    else if (gesture == Gesture::None)
+        hover(at);
     lastAt = at;
     update();
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
+    if (event->button() != Qt::LeftButton || gesture == Gesture::None)
         return;
-    gesture = Gesture::None;
+    const Gesture ended = std::exchange(gesture, Gesture::None);
+    const KTViewPoint at = viewPoint(event->position());
     unsetCursor();
+    if (ended == Gesture::Select) {
+        band->hide();
+        selectInBand((event->modifiers() & Qt::ControlModifier) != 0);
+    } else if (ended == Gesture::MoveMarker) {
+        shown.geotagPhotos({pressedPhoto}, map.viewState().position(at));
+    } else if (ended == Gesture::Undecided) {
+        if (const auto mark = mapLayers.photos().hitTest(at, map.viewState()))
+            press(*mark, event->modifiers());
+    }
+    pressedPhoto = nullptr;
     restTimer.start(kRest);
 }
 
@@ -171,8 +203,71 @@ void MapView::contextMenuEvent(QContextMenuEvent* event) {
     popUpMenu(shown.contextMenu(map.viewState().position(viewPoint(event->pos()))), *this);
 }
 
+// Pointing and selecting
+
+void MapView::hover(QPointF at) {
+    const auto content = mapPointing.contentAt(viewPoint(at));
+    card->show(content, at.toPoint());
+    setCursor(content.subject ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
 void MapView::leaveEvent(QEvent*) {
     card->show({}, {});
     mapLayers.scaleBar().setShownPosition(std::nullopt);
     update();
+}
+
+KTSpatialObjectController::Objects MapView::selectedObjects() const {
+    const auto all = shown.photos.spatialObjects();
+    KTSpatialObjectController::Objects selected;
+    for (const std::size_t index : shown.photos.spatialObjectSelectionIndexes())
+        selected.push_back(all[index]);
+    return selected;
+}
+
+/// A cluster opens; a photo, or a pile of them, is selected, with Ctrl added to
+/// the selection or taken out.
+void MapView::press(const KTPhotoLayers::Mark& mark, Qt::KeyboardModifiers modifiers) {
+    const bool adds = (modifiers & Qt::ControlModifier) != 0;
+    if (mark.kind == KTPhotoLayers::Mark::Kind::Cluster && !adds) {
+        if (const auto bounds = mapLayers.photos().boundsOf(mark))
+            map.fitBounds(*bounds);
+        return;
+    }
+    const auto pressed = mapLayers.photos().objectsOf(mark);
+    if (!adds) {
+        shown.photos.addSelectedSpatialObjects(pressed);
+        return;
+    }
+    auto selection = selectedObjects();
+    const bool areAllSelected = mark.selected == pressed.size();
+    for (const auto& object : pressed) {
+        std::erase(selection, object);
+        if (!areAllSelected)
+            selection.push_back(object);
+    }
+    shown.photos.addSelectedSpatialObjects(selection);
+}
+
+void MapView::selectInBand(bool adds) {
+    const QRect frame = band->geometry();
+    auto selection = mapLayers.photos().objectsIn(viewPoint(frame.topLeft()), viewPoint(frame.bottomRight()),
+                                                  map.viewState());
+    if (adds)
+        for (const auto& object : selectedObjects())
+            if (std::ranges::find(selection, object) == selection.end())
+                selection.push_back(object);
+    shown.photos.addSelectedSpatialObjects(selection);
+}
+
+QString MapView::spokenState() {
+    std::size_t visible = 0;
+    for (const auto& mark : mapLayers.photos().visibleMarks(map.viewState()))
+        visible += mark.numbers.size();
+    return uiText("Zoom %1, centre %2, %3, %4 photos shown, %5 tracks")
+        .arg(map.scale(), 0, 'f', 1)
+        .arg(map.latitude(), 0, 'f', 4)
+        .arg(map.longitude(), 0, 'f', 4)
+        .arg(visible)
+        .arg(mapLayers.tracks().tracks().size());
 }

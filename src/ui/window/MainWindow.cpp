@@ -9,6 +9,7 @@
 #include "geotagging/KTPhotoMatchController.h"
 #include "ui/console/ConsolePane.h"
 #include "ui/map/MapPane.h"
+#include "ui/map/MapTracks.h"
 #include "ui/photos/PhotoFilterBar.h"
 #include "ui/photos/PhotoMimeData.h"
 #include "ui/photos/PhotoPane.h"
@@ -126,6 +127,11 @@ void MainWindow::addMap() {
                  geotagging.geotagPhotosDraggedToLocation(photos, place);
              }},
         thumbnails, [&app] { app.zoomToFit(); });
+    MapLayers& layers = pane->view().layers();
+    new MapTracks(*app.trackPickerController(), layers.tracks(), pane);
+    observations.push_back(observeFor(this, geotagging, "flagRotation", [&geotagging, &layers] {
+        layers.points().setFlagRotation(geotagging.flagRotation());
+    }));
     mapPane = pane;
     middle->addWidget(mapPane);
 }

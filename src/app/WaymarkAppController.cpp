@@ -40,6 +40,7 @@ void WaymarkAppController::setupModel() {
     exportPlugins = KTPhotoExportPluginManager::make();
     plugins = std::make_unique<KTPluginManager>(exportPlugins);
     photoManager().setUndoManager(undo, queueOfUndo);
+    photoManager().setCreatesSidecarsOfRawFiles(true);
 }
 
 void WaymarkAppController::setupControllers() {

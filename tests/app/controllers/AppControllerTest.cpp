@@ -70,6 +70,12 @@ TEST(AppControllerTest, RoutesWhatIsDropped) {
     world.app.importFilesFromPasteboard({.files = {sidecar}});
     EXPECT_TRUE(world.waitForPhotos(3)) << "the image beside a sidecar";
 
+    std::filesystem::rename(makePhoto(world.folder, "raw.jpg", {{"XMP:Title", "raw"}}),
+                            world.folder / "raw.crw");
+    world.app.importFilesAtPaths({world.folder / "raw.crw"});
+    EXPECT_TRUE(world.waitForPhotos(4));
+    EXPECT_TRUE(std::filesystem::exists(world.folder / "raw.xmp")) << "such a file cannot hold the edits";
+
     world.app.importFilesAtPaths({world.folder.file("broken.gpx", "<gpx>")});
     EXPECT_TRUE(runEventLoopUntil([&] { return !world.ui.asked.alerts.empty(); }));
     EXPECT_NE(world.ui.asked.alerts[0].informativeText.find("broken.gpx"), std::string::npos);

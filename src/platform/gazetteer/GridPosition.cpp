@@ -29,11 +29,6 @@ bool GridPosition::isValid() const {
            longitude <= kTurn / 2;
 }
 
-std::int32_t GridPosition::eastwardTo(GridPosition other) const {
-    const std::int32_t east = other.longitude - longitude;
-    return east > kTurn / 2 ? east - kTurn : east < -kTurn / 2 ? east + kTurn : east;
-}
-
 double GridPosition::distanceTo(GridPosition other) const {
     const double haversine = squareOfSine((other.latitude - latitude) * kRadians / 2) +
                              std::cos(latitude * kRadians) * std::cos(other.latitude * kRadians) *

@@ -38,6 +38,13 @@ std::string pictureThatClaims(int side) {
     return bytes;
 }
 
+/// Gives one answer a request, and goes on with the last.
+LoopbackServer::Responder inTurn(std::vector<std::string> answers) {
+    return [answers = std::move(answers), next = std::size_t(0)](const auto&) mutable {
+        return answers.at(std::min(next++, answers.size() - 1));
+    };
+}
+
 class TileStoreTest : public testing::Test {
 protected:
     static void SetUpTestSuite() { QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy); }
@@ -103,10 +110,14 @@ TEST_F(TileStoreTest, FetchesWhatIsWantedAndTellsNothingElse) {
 }
 
 TEST_F(TileStoreTest, HonoursTheExpiryAndAsksWhetherAnOldTileHolds) {
-    std::string answer = LoopbackServer::answer(200, tileOf(Qt::green),
-                                                "Cache-Control: max-age=3600\r\nETag: \"one\"\r\n"
-                                                "Last-Modified: Sun, 06 Nov 1994 08:49:37 GMT\r\n");
-    LoopbackServer server([&](const auto&) { return answer; });
+    LoopbackServer server(inTurn({
+        LoopbackServer::answer(200, tileOf(Qt::green),
+                               "Cache-Control: max-age=3600\r\nETag: \"one\"\r\n"
+                               "Last-Modified: Sun, 06 Nov 1994 08:49:37 GMT\r\n"),
+        LoopbackServer::answer(304, "", "Cache-Control: max-age=7200\r\n"),
+        LoopbackServer::answer(200, tileOf(Qt::blue)), // without expiry: seven days
+        LoopbackServer::answer(500, ""),               // an old tile is better than none
+    }));
     const auto ask = [&] { // in a new run of the program
         auto store = storeFor(server);
         settle(*store, {kTile});
@@ -117,7 +128,6 @@ TEST_F(TileStoreTest, HonoursTheExpiryAndAsksWhetherAnOldTileHolds) {
     EXPECT_EQ(ask(), QColor(Qt::green));
     EXPECT_EQ(server.requests().size(), 1u);
 
-    answer = LoopbackServer::answer(304, "", "Cache-Control: max-age=7200\r\n");
     pass(2min);
     EXPECT_EQ(ask(), QColor(Qt::green));
     ASSERT_EQ(server.requests().size(), 2u);
@@ -127,7 +137,6 @@ TEST_F(TileStoreTest, HonoursTheExpiryAndAsksWhetherAnOldTileHolds) {
     EXPECT_EQ(ask(), QColor(Qt::green));
     EXPECT_EQ(server.requests().size(), 2u);
 
-    answer = LoopbackServer::answer(200, tileOf(Qt::blue)); // without expiry: seven days
     pass(2min);
     EXPECT_EQ(ask(), QColor(Qt::blue));
     EXPECT_EQ(server.requests()[2].headers.at("if-none-match"), "\"one\"");
@@ -135,7 +144,6 @@ TEST_F(TileStoreTest, HonoursTheExpiryAndAsksWhetherAnOldTileHolds) {
     EXPECT_EQ(ask(), QColor(Qt::blue));
     EXPECT_EQ(server.requests().size(), 3u);
 
-    answer = LoopbackServer::answer(500, ""); // an old tile is better than none
     pass(2min);
     EXPECT_EQ(ask(), QColor(Qt::blue));
     EXPECT_EQ(server.requests().size(), 4u);
@@ -158,11 +166,11 @@ TEST_F(TileStoreTest, IsARareGuestOfServersThatWantNothingKept) {
 }
 
 TEST_F(TileStoreTest, LeavesAServerThatRefusesAlone) {
-    std::string answer = LoopbackServer::answer(200, tileOf(Qt::green));
-    LoopbackServer server([&](const auto&) { return answer; });
+    LoopbackServer server(
+        inTurn({LoopbackServer::answer(200, tileOf(Qt::green)), LoopbackServer::answer(403, tileOf(Qt::red)),
+                LoopbackServer::answer(200, tileOf(Qt::blue))}));
     auto store = storeFor(server);
     settle(*store, {kTile});
-    answer = LoopbackServer::answer(403, tileOf(Qt::red));
     settle(*store, {kTile, kOther});
     settle(*store, {kTile, kOther, {3, 6, 5}});
     EXPECT_EQ(server.requests().size(), 2u);
@@ -170,7 +178,6 @@ TEST_F(TileStoreTest, LeavesAServerThatRefusesAlone) {
     EXPECT_TRUE(store->image(kOther).isNull());
     expectProblems(*store, {"refuses to give map tiles (HTTP status 403)"});
 
-    answer = LoopbackServer::answer(200, tileOf(Qt::blue));
     store = storeFor(server); // the refusal was not kept as a tile
     settle(*store, {kOther});
     EXPECT_EQ(colourOf(*store, kOther), QColor(Qt::blue));

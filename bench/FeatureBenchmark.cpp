@@ -1,19 +1,18 @@
 // Draws 1,000,000 track points and 20,000 photos at 1920 x 1080, points at them and puts a rubber band around
 // them; does the same in the plain way, without levels of detail, clusters and snapshots. Prints times and
 // ratios.
+#include "MapFrames.h"
 #include "platform/cartography/KTPointGeometry.h"
 #include "platform/cartography/KTSpatialObject.h"
 #include "platform/cartography/KTStyle.h"
+#include "platform/cartography/drawing/KTBaseMapLayer.h"
 #include "platform/cartography/drawing/KTMapPalette.h"
 #include "platform/cartography/drawing/features/KTPhotoLayers.h"
 #include "platform/cartography/drawing/tracks/KTTrackLayer.h"
 
 #include <QGuiApplication>
-#include <QImage>
-#include <QPainter>
+#include <chrono>
 #include <cmath>
-#include <cstdio>
-#include <ctime>
 #include <random>
 
 namespace {
@@ -23,22 +22,10 @@ using Segments = std::vector<std::vector<KTTrackPosition>>;
 
 constexpr KTMapPoint kMiddle{8.2, 46.8};
 
-/// Of this thread's processor time: other programs do not count.
-double milliseconds(const auto& work) {
-    const auto now = [] {
-        timespec time = {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-    };
-    const double start = now();
-    work();
-    return now() - start;
-}
-
 double best(int rounds, const auto& work) {
     double shortest = 1e9;
     for (int round = 0; round < rounds; ++round)
-        shortest = std::min(shortest, milliseconds(work));
+        shortest = std::min(shortest, millisecondsOf(work));
     return shortest;
 }
 
@@ -133,7 +120,7 @@ double drawingTime(int rounds, const KTMapDrawing& drawing, const KTMapViewState
 void benchmarkTracks(const std::vector<std::vector<KTTrackPosition>>& journeys) {
     KTTrackLayer layer;
     std::vector<KTMapTrack> tracks;
-    const double making = milliseconds([&] {
+    const double making = millisecondsOf([&] {
         for (std::size_t i = 0; i < journeys.size(); ++i)
             tracks.push_back({std::int64_t(i), {}, std::make_shared<KTTrackLine>(Segments{journeys[i]})});
     });
@@ -141,7 +128,7 @@ void benchmarkTracks(const std::vector<std::vector<KTTrackPosition>>& journeys) 
     const KTMapViewState whole(kMiddle, 8.5, 1920, 1080);
     const auto drawing = layer.drawing(whole);
     const double first = making + drawingTime(1, *drawing, whole);
-    const double plain = milliseconds([&] {
+    const double plain = millisecondsOf([&] {
         QImage image = canvas();
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
@@ -177,11 +164,10 @@ void benchmarkTracks(const std::vector<std::vector<KTTrackPosition>>& journeys) 
     std::printf("hovering tracks: worst %.2f ms\n", worst);
 }
 
-void benchmarkPhotos() {
+void placePhotos(Photos& photos) {
     std::mt19937 source(1);
     std::uniform_real_distribution<double> anywhere(-1, 1);
     std::normal_distribution<double> nearby(0, 0.01);
-    Photos photos;
     KTMapPoint town = kMiddle;
     for (int i = 0; i < kPhotos; ++i) {
         if (i % 100 == 0)
@@ -191,6 +177,9 @@ void benchmarkPhotos() {
             std::make_shared<KTPointGeometry>(KTMapPoint{town.x + nearby(source), town.y + nearby(source)});
         photos.list.push_back(photo);
     }
+}
+
+void benchmarkPhotos(Photos& photos) {
     KTPhotoLayers layers(photos);
     std::printf("snapshot of %d photos: %.1f ms\n", kPhotos, best(kRounds, [&] {
                     layers.source().setNeedsSnapshot();
@@ -202,7 +191,7 @@ void benchmarkPhotos() {
         const KTMapPoint aTown = photos.list.front()->geometry()->points().front();
         const KTMapViewState state(zoom < 9 ? kMiddle : aTown, zoom, 1920, 1080);
         const auto& places = layers.source().snapshot()->places();
-        const double clustering = milliseconds([&] { places.clustersForZoom(zoom); });
+        const double clustering = millisecondsOf([&] { places.clustersForZoom(zoom); });
         const auto drawing = layers.layers()[1]->drawing(state);
         const double drawn = drawingTime(kRounds, *drawing, state);
         const double hit = best(kRounds, [&] { layers.hitTest({961, 541}, state); });
@@ -217,7 +206,7 @@ void benchmarkPhotos() {
             }
         });
         foundPlainly = 0;
-        const double plainBand = milliseconds([&] {
+        const double plainBand = millisecondsOf([&] {
             for (const auto& photo : photos.list) {
                 const KTViewPoint place = state.viewPoint(photo->geometry()->points().front());
                 foundPlainly += place.x >= 300 && place.x <= 1500 && place.y >= 200 && place.y <= 900;
@@ -231,6 +220,31 @@ void benchmarkPhotos() {
     }
 }
 
+/// The map of the window with everything on it: wall time until the first exact picture, then frames.
+void benchmarkWhole(const std::vector<std::vector<KTTrackPosition>>& journeys, Photos& photos) {
+    KTBaseMapStore::sharedStore()->data();
+    const auto start = std::chrono::steady_clock::now();
+    KTBaseMapLayer baseMap;
+    KTTrackLayer tracks;
+    KTPhotoLayers photoLayers(photos);
+    std::vector<KTMapTrack> lines;
+    for (std::size_t i = 0; i < journeys.size(); ++i)
+        lines.push_back({std::int64_t(i), {}, std::make_shared<KTTrackLine>(Segments{journeys[i]})});
+    tracks.setTracks(std::move(lines));
+    KTMapCompositor map;
+    map.addLayer(baseMap);
+    map.addLayer(tracks);
+    for (KTMapLayer* layer : photoLayers.layers())
+        map.addLayer(*layer);
+    const KTMapViewState whole(kMiddle, 8.5, 1920, 1080);
+    map.setViewState(whole, false);
+    runUntilExact(map);
+    const std::chrono::duration<double, std::milli> first = std::chrono::steady_clock::now() - start;
+    std::printf("the whole map: %.0f ms until it is exact (%.2f of the aim)\n", first.count(),
+                first.count() / 1000);
+    benchmarkMotions(map, whole);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -241,5 +255,8 @@ int main(int argc, char** argv) {
     for (unsigned i = 0; i < kTracks; ++i)
         journeys.push_back(journey(i));
     benchmarkTracks(journeys);
-    benchmarkPhotos();
+    Photos photos;
+    placePhotos(photos);
+    benchmarkPhotos(photos);
+    benchmarkWhole(journeys, photos);
 }

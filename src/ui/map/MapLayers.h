@@ -1,41 +1,27 @@
 #pragma once
-#include "platform/cartography/KTMapController.h"
-#include "platform/cartography/drawing/KTAttributionLayer.h"
-#include "platform/cartography/drawing/KTBaseMapLayer.h"
-#include "platform/cartography/drawing/KTCrosshairsLayer.h"
 #include "platform/cartography/drawing/KTMapCompositor.h"
-#include "platform/cartography/drawing/KTScaleBarLayer.h"
-#include "platform/cartography/drawing/features/KTLinkablePointLayer.h"
-#include "platform/cartography/drawing/features/KTPhotoLayers.h"
-#include "platform/cartography/drawing/tiles/KTTileLayer.h"
-#include "platform/cartography/drawing/tracks/KTTrackLayer.h"
+#include "platform/cartography/drawing/KTMapScene.h"
 #include "ui/map/MapFeatures.h"
 
-/// The layers of the main window's map and what puts them together, kept as the
-/// map's controller says.
+/// The layers of a window's map and what puts them together, kept as the map's controller says.
 class MapLayers {
 public:
-    MapLayers(KTMapController& mapController, const MapFeatures& features);
+    MapLayers(KTMapController& mapController, const MapFeatures& features)
+        : scene(mapController), photoLayers(scene.addPhotos(features.photos)),
+          pointLayer(scene.addLinkablePoints(features.points)) {
+        for (KTMapLayer* layer : scene.layers())
+            composition.addLayer(*layer);
+    }
 
     KTMapCompositor& compositor() { return composition; }
     KTPhotoLayers& photos() { return photoLayers; }
     KTLinkablePointLayer& points() { return pointLayer; }
-    KTTrackLayer& tracks() { return trackLayer; }
-    KTScaleBarLayer& scaleBar() { return scaleBarLayer; }
-    std::string attribution() const { return KTAttributionLayer::textOf(composition.layers()); }
+    KTTrackLayer& tracks() { return scene.tracks(); }
+    KTScaleBarLayer& scaleBar() { return scene.scaleBar(); }
 
 private:
-    void follow(std::string_view key);
-
-    KTMapController& map;
-    KTBaseMapLayer baseMap;
-    KTTileLayer tiles;
-    KTTrackLayer trackLayer;
-    KTPhotoLayers photoLayers;
-    KTLinkablePointLayer pointLayer;
-    KTCrosshairsLayer crosshairs;
-    KTScaleBarLayer scaleBarLayer;
-    KTAttributionLayer attributionLayer;
+    KTMapScene scene;
+    KTPhotoLayers& photoLayers;
+    KTLinkablePointLayer& pointLayer;
     KTMapCompositor composition; // last: it draws them
-    KTObservable::Observation observation;
 };

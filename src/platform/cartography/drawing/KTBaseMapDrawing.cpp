@@ -9,6 +9,7 @@
 namespace {
 
 constexpr double kReach = 8;          // logical pixels; wider than half of any line
+constexpr double kStripRows = 128;    // device pixels, whole
 constexpr double kDivisionZoom = 3.5; // from which divisions within countries are drawn
 
 /// A pen that is a hair line where the map is small. Wider lines are slow to draw and clutter it.
@@ -33,15 +34,13 @@ public:
           shapes(view, kReach, isCancelled) {}
 
     void drawAll() {
-        painter.setPen(Qt::NoPen);
-        for (const QPainterPath& land : shapes.areas(level.lines[KTBaseMapData::Land]))
-            painter.fillPath(land, palette.land);
-        painter.setBrush(Qt::NoBrush);
+        fillLand();
         const double zoom = state.zoom();
         if (zoom >= kDivisionZoom)
             stroke(KTBaseMapData::Divisions, 0, shown(zoom), linePen(palette.division, 1));
         stroke(KTBaseMapData::Rivers, 0, shown(zoom), linePen(palette.river, widthAt(zoom, 7, 1, 3)));
-        painter.strokePath(shapes.shores(level.lines[KTBaseMapData::Land]), linePen(palette.shore, 1));
+        painter.setPen(linePen(palette.shore, 1));
+        shapes.shores(level.lines[KTBaseMapData::Land], drawPiece);
         QPen disputed = linePen(palette.border, 1);
         disputed.setDashPattern({4, 3});
         stroke(KTBaseMapData::Borders, 0, 0, linePen(palette.border, widthAt(zoom, 5, 1, 1.6)));
@@ -51,10 +50,21 @@ public:
 private:
     static unsigned shown(double zoom) { return static_cast<unsigned>(zoom * 10); }
 
+    /// In strips, because a painter that antialiases goes through the whole of a path for each few rows of
+    /// pixels, which are many for a continent's shore.
+    void fillLand() {
+        const double height = kStripRows / state.devicePixelRatio();
+        for (double top = 0; top < state.height(); top += height) {
+            painter.setClipRect(QRectF(0, top, state.width(), height));
+            for (const QPainterPath& land : shapes.areas(level.lines[KTBaseMapData::Land], top, top + height))
+                painter.fillPath(land, palette.land);
+        }
+        painter.setClipping(false);
+    }
+
     void stroke(KTBaseMapData::Kind kind, unsigned lowestRank, unsigned highestRank, const QPen& pen) {
-        const QPainterPath path = shapes.lines(level.lines[kind], lowestRank, highestRank);
-        if (!path.isEmpty())
-            painter.strokePath(path, pen);
+        painter.setPen(pen);
+        shapes.lines(level.lines[kind], lowestRank, highestRank, drawPiece);
     }
 
     QPainter& painter;
@@ -62,6 +72,7 @@ private:
     const KTMapPalette& palette;
     const KTBaseMapData::Level& level;
     const KTBaseMapShapes shapes;
+    const LineClipper::Piece drawPiece = [this](const QPolygonF& points) { painter.drawPolyline(points); };
 };
 
 } // namespace

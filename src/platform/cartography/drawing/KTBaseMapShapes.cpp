@@ -38,9 +38,10 @@ bool isEdgeOfWorld(Point from, Point to) {
 
 } // namespace
 
-KTBaseMapShapes::KTBaseMapShapes(const KTMapViewState& state, double reach,
+KTBaseMapShapes::KTBaseMapShapes(const KTMapViewState& state, double reachBeyond,
                                  const std::atomic<bool>& isCancelled)
-    : cancelled(isCancelled), clip(-reach, -reach, state.width() + 2 * reach, state.height() + 2 * reach) {
+    : cancelled(isCancelled), reach(reachBeyond),
+      clip(-reach, -reach, state.width() + 2 * reach, state.height() + 2 * reach) {
     const KTWorldRect visible = state.visibleRect();
     const double more = reach / state.worldSize();
     const auto range = state.visibleTurns(0, 1, reach);
@@ -52,20 +53,27 @@ KTBaseMapShapes::KTBaseMapShapes(const KTMapViewState& state, double reach,
     }
 }
 
-std::vector<QPainterPath> KTBaseMapShapes::areas(const std::vector<KTBaseMapData::Line>& rings) const {
+std::vector<QPainterPath> KTBaseMapShapes::areas(const std::vector<KTBaseMapData::Line>& rings, double top,
+                                                 double bottom) const {
+    QRectF strip = clip;
+    strip.setTop(top - reach);
+    strip.setBottom(bottom + reach);
     std::vector<QPainterPath> paths;
-    for (const Turn& turn : turns) {
+    for (Turn turn : turns) {
+        turn.top = (strip.top() - turn.dy) / turn.scale;
+        turn.bottom = (strip.bottom() - turn.dy) / turn.scale;
         QPainterPath& path = paths.emplace_back();
         path.setFillRule(Qt::OddEvenFill);
         for (const KTBaseMapData::Line& ring : rings)
             if (turn.reaches(ring.box) && !cancelled)
-                addArea(path, ring, turn);
+                addArea(path, ring, turn, strip);
     }
     return paths;
 }
 
 /// Where a stretch of the ring lies wholly on one side of what is in reach, only its ends count.
-void KTBaseMapShapes::addArea(QPainterPath& path, const KTBaseMapData::Line& ring, const Turn& turn) const {
+void KTBaseMapShapes::addArea(QPainterPath& path, const KTBaseMapData::Line& ring, const Turn& turn,
+                              const QRectF& strip) {
     std::vector<QPointF> polygon;
     const auto add = [&](Point point) {
         QPointF corner = turn.toView(point);
@@ -87,7 +95,7 @@ void KTBaseMapShapes::addArea(QPainterPath& path, const KTBaseMapData::Line& rin
     }
     const KTBaseMapData::Box& box = ring.box;
     if (box.left < turn.left || box.right > turn.right || box.top < turn.top || box.bottom > turn.bottom)
-        clipPolygon(polygon, clip);
+        clipPolygon(polygon, strip);
     if (polygon.size() < 3)
         return;
     path.moveTo(polygon.front());
@@ -96,65 +104,42 @@ void KTBaseMapShapes::addArea(QPainterPath& path, const KTBaseMapData::Line& rin
     path.closeSubpath();
 }
 
-QPainterPath KTBaseMapShapes::shores(const std::vector<KTBaseMapData::Line>& rings) const {
-    QPainterPath path;
+void KTBaseMapShapes::shores(const std::vector<KTBaseMapData::Line>& rings,
+                             const LineClipper::Piece& receive) const {
+    LineClipper clipper(clip, receive);
     for (const Turn& turn : turns)
         for (const KTBaseMapData::Line& ring : rings)
             if (turn.reaches(ring.box) && !cancelled)
-                addLine(path, ring, turn, true);
-    return path;
+                addLine(clipper, ring, turn, true);
+    clipper.finish();
 }
 
-QPainterPath KTBaseMapShapes::lines(const std::vector<KTBaseMapData::Line>& lines, unsigned lowestRank,
-                                    unsigned highestRank) const {
-    QPainterPath path;
+void KTBaseMapShapes::lines(const std::vector<KTBaseMapData::Line>& lines, unsigned lowestRank,
+                            unsigned highestRank, const LineClipper::Piece& receive) const {
+    LineClipper clipper(clip, receive);
     for (const Turn& turn : turns)
         for (const KTBaseMapData::Line& line : lines)
             if (line.rank >= lowestRank && line.rank <= highestRank && turn.reaches(line.box) && !cancelled)
-                addLine(path, line, turn, false);
-    return path;
+                addLine(clipper, line, turn, false);
+    clipper.finish();
 }
 
-void KTBaseMapShapes::addLine(QPainterPath& path, const KTBaseMapData::Line& line, const Turn& turn,
-                              bool isRing) const {
+void KTBaseMapShapes::addLine(LineClipper& clipper, const KTBaseMapData::Line& line, const Turn& turn,
+                              bool isRing) {
     const std::size_t edges = line.points.size() - (isRing ? 0 : 1);
-    std::size_t end = edges; // of the path's last edge, none at first
+    std::size_t next = edges; // the edge that would go on where the clipper stands, none at first
     for (std::size_t chunk = 0; chunk < line.chunks.size(); ++chunk) {
         if (!turn.reaches(line.chunks[chunk]))
             continue;
         const std::size_t first = chunk * KTBaseMapData::kChunk;
         for (std::size_t i = first; i < std::min(first + KTBaseMapData::kChunk, edges); ++i) {
             const Point from = line.points[i], to = line.points[i + 1 < line.points.size() ? i + 1 : 0];
-            QLineF segment(turn.toView(from), turn.toView(to));
-            if ((isRing && isEdgeOfWorld(from, to)) || !isClipped(segment))
+            if (isRing && isEdgeOfWorld(from, to))
                 continue;
-            if (end != i || path.currentPosition() != segment.p1())
-                path.moveTo(segment.p1());
-            path.lineTo(segment.p2());
-            end = i + 1;
+            if (next != i)
+                clipper.moveTo(turn.toView(from));
+            clipper.lineTo(turn.toView(to));
+            next = i + 1;
         }
     }
-}
-
-/// Cuts the segment to what is in reach (Liang and Barsky); whether anything is left.
-bool KTBaseMapShapes::isClipped(QLineF& segment) const {
-    if (clip.contains(segment.p1()) && clip.contains(segment.p2()))
-        return true;
-    double enters = 0, leaves = 1;
-    const auto cut = [&](double delta, double room) { // where it crosses an edge `room` ahead
-        if (delta == 0)
-            return room >= 0;
-        const double at = room / delta;
-        if (delta < 0)
-            enters = std::max(enters, at);
-        else
-            leaves = std::min(leaves, at);
-        return enters <= leaves;
-    };
-    const QPointF start = segment.p1(), delta = segment.p2() - start;
-    if (!cut(-delta.x(), start.x() - clip.left()) || !cut(delta.x(), clip.right() - start.x()) ||
-        !cut(-delta.y(), start.y() - clip.top()) || !cut(delta.y(), clip.bottom() - start.y()))
-        return false;
-    segment = QLineF(start + delta * enters, start + delta * leaves);
-    return true;
 }

@@ -1,8 +1,8 @@
 #pragma once
 #include "platform/cartography/KTMapViewState.h"
 #include "platform/cartography/drawing/KTBaseMapData.h"
+#include "platform/cartography/drawing/LineClipper.h"
 
-#include <QLineF>
 #include <QPainterPath>
 #include <atomic>
 
@@ -10,18 +10,20 @@
 /// world, and clipped to its surroundings before anything is drawn. For one thread.
 class KTBaseMapShapes {
 public:
-    /// @p reach: how far beyond the view, in logical pixels, ends of lines and edges must be right. Both
-    /// arguments must stay.
-    KTBaseMapShapes(const KTMapViewState& state, double reach, const std::atomic<bool>& isCancelled);
+    /// @p reachBeyond: how far beyond the view, in logical pixels, ends of lines and edges must be right.
+    /// Both arguments must stay.
+    KTBaseMapShapes(const KTMapViewState& state, double reachBeyond, const std::atomic<bool>& isCancelled);
 
-    /// The rings, to be filled by the odd-even rule: a path for each repetition of the world, which overlap a
-    /// little.
-    std::vector<QPainterPath> areas(const std::vector<KTBaseMapData::Line>& rings) const;
-    /// The edges of rings, without those that only part the world at the 180° meridian and at its ends.
-    QPainterPath shores(const std::vector<KTBaseMapData::Line>& rings) const;
-    /// The lines whose rank lies in [@p lowestRank, @p highestRank].
-    QPainterPath lines(const std::vector<KTBaseMapData::Line>& lines, unsigned lowestRank,
-                       unsigned highestRank) const;
+    /// The rings between @p top and @p bottom, in logical pixels, to be filled by the odd-even rule: a path
+    /// for each repetition of the world, which overlap a little.
+    std::vector<QPainterPath> areas(const std::vector<KTBaseMapData::Line>& rings, double top,
+                                    double bottom) const;
+    /// Hands on the edges of rings, without those that only part the world at the 180° meridian and at its
+    /// ends.
+    void shores(const std::vector<KTBaseMapData::Line>& rings, const LineClipper::Piece& receive) const;
+    /// Hands on the lines whose rank lies in [@p lowestRank, @p highestRank].
+    void lines(const std::vector<KTBaseMapData::Line>& lines, unsigned lowestRank, unsigned highestRank,
+               const LineClipper::Piece& receive) const;
 
 private:
     /// Where one repetition of the world lies: pixel = unit * scale + offset, and what of it is in reach, in
@@ -37,11 +39,12 @@ private:
             return box.left <= right && box.right >= left && box.top <= bottom && box.bottom >= top;
         }
     };
-    void addArea(QPainterPath& path, const KTBaseMapData::Line& ring, const Turn& turn) const;
-    void addLine(QPainterPath& path, const KTBaseMapData::Line& line, const Turn& turn, bool isRing) const;
-    bool isClipped(QLineF& segment) const;
+    static void addArea(QPainterPath& path, const KTBaseMapData::Line& ring, const Turn& turn,
+                        const QRectF& strip);
+    static void addLine(LineClipper& clipper, const KTBaseMapData::Line& line, const Turn& turn, bool isRing);
 
     const std::atomic<bool>& cancelled;
+    const double reach; // in logical pixels, like the following
     std::vector<Turn> turns;
-    QRectF clip; // in logical pixels
+    QRectF clip;
 };

@@ -1,8 +1,8 @@
 #include "platform/cartography/drawing/features/PhotoDrawings.h"
 
 #include "platform/cartography/KTGeodesicGeometry.h"
+#include "platform/cartography/drawing/LineClipper.h"
 #include "platform/cartography/drawing/features/PhotoMarks.h"
-#include "platform/cartography/drawing/tracks/LineClipper.h"
 #include "platform/geodesy/KTGeodesy.h"
 
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "platform/cartography/drawing/tracks/TrackDrawing.h"
 
-#include "platform/cartography/drawing/tracks/LineClipper.h"
+#include "platform/cartography/drawing/LineClipper.h"
 #include "platform/cartography/drawing/tracks/TrackColours.h"
 
 #include <QPainter>

@@ -1,8 +1,10 @@
-#include "platform/cartography/drawing/tracks/LineClipper.h"
+#include "platform/cartography/drawing/LineClipper.h"
 
 /// Liang and Barsky, 1984.
 std::optional<ClippedLine> ClippedLine::of(QPointF from, QPointF to, const QRectF& area) {
     ClippedLine line;
+    if (area.contains(from) && area.contains(to))
+        return line;
     const QPointF way = to - from;
     const auto clip = [&](double speed, double distance) { // one side; the speed is that towards it
         if (speed == 0)

@@ -124,7 +124,7 @@ private:
         const auto store = scene.tiles().store();
         if (!store)
             return;
-        scene.tiles().drawing(map.viewState());
+        scene.tiles().willShow(map.viewState());
         const auto limit = std::chrono::steady_clock::now() + kLongestWaitForTiles;
         while (!store->isSettled() && std::chrono::steady_clock::now() < limit) {
             QCoreApplication::processEvents();

@@ -65,6 +65,10 @@ public:
 
     Place place() const { return layerPlace; }
 
+    /// Told what the user sees, before drawings for it or for a wider view are asked for. What is fetched
+    /// from servers follows this alone: nothing is fetched that nobody looks at.
+    virtual void willShow(const KTMapViewState& visible) { static_cast<void>(visible); }
+
     /// What there is to be drawn now in @p state, which may be larger than the visible view; null for
     /// nothing. Quick: whatever takes time belongs into the drawing. A layer that did not change may return
     /// the same object again.

@@ -35,9 +35,11 @@ QImage KTMapPicture(const std::vector<KTMapLayer*>& layers, const KTMapViewState
     std::vector<KTMapLayer*> ordered = layers;
     std::ranges::stable_sort(ordered, {}, [](const KTMapLayer* layer) { return layer->place(); });
     KTMapDrawings drawings;
-    for (KTMapLayer* layer : ordered)
+    for (KTMapLayer* layer : ordered) {
+        layer->willShow(state);
         if (auto drawing = layer->drawing(state))
             drawings.push_back(std::move(drawing));
+    }
     QImage image = KTMakeMapImage(state, true);
     const std::atomic<bool> never = false;
     KTDrawMap(image, state, look, drawings, never);

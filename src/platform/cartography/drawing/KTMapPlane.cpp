@@ -97,9 +97,11 @@ void KTMapPlane::start() {
     job->look = wantedLook;
     job->look.isAntialiased = !moving;
     job->generation = generation;
-    for (KTMapLayer* layer : layerList)
+    for (KTMapLayer* layer : layerList) {
+        layer->willShow(wantedState);
         if (auto drawing = layer->drawing(job->state))
             job->drawings.push_back(std::move(drawing));
+    }
     if (job->drawings.empty()) {
         image = {{}, job->state, job->look, generation};
         image.look.isAntialiased = true; // nothing is the same either way

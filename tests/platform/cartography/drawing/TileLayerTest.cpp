@@ -73,7 +73,7 @@ protected:
         return image;
     }
     void settle() {
-        layer.drawing(state);
+        layer.willShow(state);
         EXPECT_TRUE(runEventLoopUntil([&] { return layer.store()->isSettled(); }));
     }
 
@@ -90,6 +90,7 @@ TEST_F(TileLayerTest, ShowsTilesAsTheyArriveAndNothingElse) {
     EXPECT_EQ(layer.drawing(state), nullptr);
     use(server);
     EXPECT_EQ(layer.attribution(), "© T");
+    layer.drawing(state.widenedBy(500)); // of more than is shown nothing is fetched
     EXPECT_EQ(drawn().pixelColor(128, 64), QColor(Qt::white));
     changes = 0;
     settle();

@@ -60,17 +60,21 @@ void KTTileLayer::setStore(std::shared_ptr<KTTileStore> newStore) {
     changed();
 }
 
-std::shared_ptr<const KTMapDrawing> KTTileLayer::drawing(const KTMapViewState& state) {
+void KTTileLayer::willShow(const KTMapViewState& visible) {
     if (!tiles)
-        return nullptr;
-    const auto places = TileView::placesIn(state, tiles->source());
+        return;
     std::vector<KTTileAddress> wanted;
-    for (const TileView::Place& place : places)
+    for (const TileView::Place& place : TileView::placesIn(visible, tiles->source()))
         if (std::ranges::find(wanted, place.tile) ==
             wanted.end()) // the world may be in the view several times
             wanted.push_back(place.tile);
     tiles->want(std::move(wanted));
-    auto drawing = std::make_shared<TileDrawing>(places, *tiles);
+}
+
+std::shared_ptr<const KTMapDrawing> KTTileLayer::drawing(const KTMapViewState& state) {
+    if (!tiles)
+        return nullptr;
+    auto drawing = std::make_shared<TileDrawing>(TileView::placesIn(state, tiles->source()), *tiles);
     return drawing->isEmpty() ? nullptr : drawing;
 }
 

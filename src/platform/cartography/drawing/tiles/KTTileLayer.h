@@ -16,7 +16,9 @@ public:
     void setStore(std::shared_ptr<KTTileStore> newStore);
     const std::shared_ptr<KTTileStore>& store() const { return tiles; }
 
-    /// From now on exactly the tiles that @p state shows are fetched.
+    /// From now on exactly the tiles of this view are fetched.
+    void willShow(const KTMapViewState& visible) override;
+    /// The tiles that have arrived.
     std::shared_ptr<const KTMapDrawing> drawing(const KTMapViewState& state) override;
     std::string attribution() const override;
     /// What went wrong with the tiles last; another text for each sort of trouble.

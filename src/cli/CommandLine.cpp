@@ -68,6 +68,18 @@ void apply(const GlobalOptions& options, CommandSession& session) {
                                                      : CommandSession::Progress::Auto;
 }
 
+/// The arguments as the parser takes them, the last one first. It ends a list of paths at "--", which matters
+/// only where an argument after it begins with a dash.
+std::vector<std::string> argumentsForParser(int argc, char** argv) {
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    const auto mark = std::ranges::find(arguments, "--");
+    if (mark != arguments.end() &&
+        std::none_of(mark + 1, arguments.end(), [](const auto& text) { return text.starts_with('-'); }))
+        arguments.erase(mark);
+    std::ranges::reverse(arguments);
+    return arguments;
+}
+
 int runWithApplication(Command& command, CommandSession& session, int argc, char** argv) {
     std::unique_ptr<QCoreApplication> application;
     if (command.drawsPictures()) {
@@ -102,7 +114,7 @@ int runCommandLine(int argc, char** argv) {
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
     try {
-        app.parse(argc, argv);
+        app.parse(argumentsForParser(argc, argv));
         apply(options, session);
         for (const ParsedCommand& entry : commands)
             if (entry.parser->parsed())

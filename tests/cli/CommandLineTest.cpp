@@ -231,7 +231,7 @@ TEST_F(CommandLine, SavesAsTheOptionsSay) {
 
     makePhoto(folder, "b.jpg");
     ASSERT_EQ(::mkfifo((folder / "b.xmp").c_str(), 0600), 0);
-    const Result result = run({"--json", "read", "--only", "properties", "a.jpg", "b.jpg"});
+    const Result result = run({"--json", "read", "--only", "properties", "a.jpg", "--", "b.jpg"});
     EXPECT_EQ(result.status, 1) << "the second one's sidecar is no file";
     const QJsonArray photos = result.json()["photos"].toArray();
     EXPECT_TRUE(photos[0]["valid"].toBool());

@@ -15,6 +15,8 @@
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
+#include "platform/concurrency/KTThreadHeap.h"
+#include "platform/concurrency/KTThreadPool.h"
 #include "platform/gazetteer/KTGazetteer.h"
 #include "platform/undo/KTUndoManager.h"
 
@@ -60,6 +62,10 @@ void WaymarkAppController::setupControllers() {
     operationLogWindow = userInterface.makePhotoOperationWindow(*operationLog);
     menu = std::make_unique<WaymarkMainMenu>(*this);
     menu->setup();
+    importObservation = photoManager().observe([this](const KTChange& change) {
+        if (change.key == "importInProgress" && !change.isPrior && !photoManager().importInProgress())
+            KTRunOnThreadPool(KTReturnFreeMemory); // what reading took beside the photos
+    });
 }
 
 void WaymarkAppController::showWaymarkWindow() {

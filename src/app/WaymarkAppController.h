@@ -138,6 +138,7 @@ private:
     void loadPlugins();
     void alertDidEnd(std::size_t returnCode);
     void importFiles(const Paths& paths, bool bundlesAreFiles);
+    void selectFirstPhotos();
     void importDroppedFiles(const DroppedFiles& files);
 
     WaymarkUserInterface& userInterface;
@@ -155,9 +156,9 @@ private:
     std::unique_ptr<WaymarkWindowController> mainWindow;
     std::unique_ptr<KTTagDetailsWindowController> tagDetails;
     std::unique_ptr<AppPreferencesWindowController> preferences;
-    bool hasToldLibraryProblem = false, isAskingToQuit = false;
+    bool hasToldLibraryProblem = false, hasSelectedFirstPhotos = false, isAskingToQuit = false;
     std::stop_source listingStop;
-    Observation mainWindowObservation, tagDetailsObservation, preferencesObservation;
+    Observation importObservation, mainWindowObservation, tagDetailsObservation, preferencesObservation;
     WaymarkUserInterface::Window tagDetailsWindow, operationLogWindow, trackPickerWindow, dateToolsWindow,
         preferencesWindow;
     const std::shared_ptr<WaymarkAppController*> self; // for what is posted

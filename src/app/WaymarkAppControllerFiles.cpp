@@ -90,12 +90,22 @@ void WaymarkAppController::importDroppedFiles(const DroppedFiles& files) {
         std::vector<std::string> photos;
         for (const auto& path : files.photos)
             photos.push_back(path.string());
-        photoManager().importPhotosAtPaths(std::move(photos));
+        photoManager().importPhotosAtPaths(std::move(photos), {.didEnd = [alive = std::weak_ptr(self)] {
+                                               if (const auto controller = alive.lock())
+                                                   (*controller)->selectFirstPhotos();
+                                           }});
     }
     if (!files.tracks.empty()) {
-        trackPicker->showWindow();
+        trackPicker->showWindowQuietly();
         trackPicker->importFilesAtPaths(files.tracks);
     }
+}
+
+/// Whoever begins finds the photos selected, ready to be geotagged; whoever has selected some keeps them.
+void WaymarkAppController::selectFirstPhotos() {
+    if (std::exchange(hasSelectedFirstPhotos, true) || !photoManager().selectedPhotoIndexes().empty())
+        return;
+    selectAllPhotos();
 }
 
 void WaymarkAppController::importFilesFromPasteboard(const KTPasteboard& pasteboard) {

@@ -7,6 +7,7 @@
 #include "collection/KTPhotoOperationWindowController.h"
 #include "collection/PhotoManagerMenuBarController.h"
 #include "datetools/KTDateToolsWindowController.h"
+#include "geotagging/KTAppTrackPickerController.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/undo/KTUndoManager.h"
 
@@ -82,6 +83,16 @@ std::string redoTitle(const App& app) {
     return withAction("Redo", app.undoManager()->redoActionName());
 }
 
+/// Each by its file name; where two have the same, one finds out by trying.
+KTMenu recentTracks(App& app) {
+    KTMenu items;
+    for (const auto& file : KTTrackPickerController::recentTrackFiles())
+        items.push_back({.title = file.filename().string(),
+                         .action = [&app, file] { app.importFilesAtPaths({file}); },
+                         .identifier = "recentTrack:" + file.string()});
+    return items;
+}
+
 using enum WaymarkPane;
 
 // clang-format off
@@ -89,6 +100,7 @@ const WaymarkCommand kCommands[] = {
     {"fileMenu", "File"},
     {"loadPhotosFromFiles", "Add Photos…", &App::loadPhotosFromFiles, "Ctrl+O", hasWindow},
     {"loadTracksFromFile", "Add Tracks…", &App::loadTracksFromFile, "Ctrl+Shift+O", hasWindow},
+    {"recentTracks", "Recent Tracks", nullptr, {}, nullptr, nullptr, nullptr, recentTracks},
     {"downloadTracksFromGPS", "Download Tracks from GPS", &App::downloadTracksFromGPS, {}, hasWindow},
     {},
     {"writeChangedTags", "Write Changed Tags", &App::writeChangedTags, "Ctrl+S", canWrite},
@@ -97,8 +109,8 @@ const WaymarkCommand kCommands[] = {
     {"quit", "Quit", &App::quit, "Ctrl+Q"},
 
     {"editMenu", "Edit"},
-    {"undo", "Undo", &App::undoLastStep, "Ctrl+Z", canUndo, nullptr, nullptr, undoTitle},
-    {"redo", "Redo", &App::redoLastStep, "Ctrl+Shift+Z", canRedo, nullptr, nullptr, redoTitle},
+    {"undo", "Undo", &App::undoLastStep, "Ctrl+Z", canUndo, nullptr, nullptr, nullptr, undoTitle},
+    {"redo", "Redo", &App::redoLastStep, "Ctrl+Shift+Z", canRedo, nullptr, nullptr, nullptr, redoTitle},
     {},
     {"copyCoordinates", "Copy Coordinates", &App::copyCoordinates, "Ctrl+Shift+C", hasLocationCreated},
     {"pasteCoordinates", "Paste Coordinates", &App::pasteCoordinates, "Ctrl+Shift+V", canPlaceOnMap},

@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/presentation/KTMenu.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,9 +19,11 @@ struct WaymarkCommand {
     Question isEnabled = nullptr;     ///< null for always
     Question isPresent = nullptr;     ///< null for always
     Question isChecked = nullptr;     ///< null for an item without check mark
+    /// The items of a command that is a menu of its own, absent while it is empty; null for others.
+    KTMenu (*submenu)(WaymarkAppController& app) = nullptr;
     std::string (*currentTitle)(const WaymarkAppController& app) = nullptr; ///< null for the title above
 
-    bool isMenu() const { return action == nullptr && !title.empty(); }
+    bool isMenu() const { return action == nullptr && submenu == nullptr && !title.empty(); }
     bool isSeparator() const { return title.empty(); }
 
     static std::span<const WaymarkCommand> all();

@@ -9,6 +9,7 @@
 #include "collection/PhotoManagerMenuBarController.h"
 #include "datetools/KTDateToolsWindowController.h"
 #include "export/KTPhotoExportPluginMenuController.h"
+#include "geotagging/KTAppTrackPickerController.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/undo/KTUndoManager.h"
@@ -37,6 +38,7 @@ void WaymarkMainMenu::setup() {
     follow(*app.photoManagerMenuBarController());
     follow(*app.photoOperationWindowController());
     follow(*app.dateToolsWindowController());
+    follow(*app.trackPickerController());
     follow(app);
     if (app.photoExportPluginMenuController() != nullptr)
         follow(*app.photoExportPluginMenuController());
@@ -61,6 +63,10 @@ void WaymarkMainMenu::announceSoon() {
 }
 
 KTMenuItem WaymarkMainMenu::itemOf(const WaymarkCommand& command) const {
+    if (command.submenu != nullptr)
+        return {.title = KTLocalizedString(command.title),
+                .submenu = command.submenu(app),
+                .identifier = std::string(command.identifier)};
     KTMenuItem item{.title = command.currentTitle != nullptr ? command.currentTitle(app)
                                                              : KTLocalizedString(command.title),
                     .action = [this, &command] { (app.*command.action)(); },
@@ -72,10 +78,15 @@ KTMenuItem WaymarkMainMenu::itemOf(const WaymarkCommand& command) const {
     return item;
 }
 
+bool WaymarkMainMenu::isPresent(const WaymarkCommand& command) const {
+    return (command.isPresent == nullptr || command.isPresent(app)) &&
+           (command.submenu == nullptr || !command.submenu(app).empty());
+}
+
 KTMenu WaymarkMainMenu::mainMenu() const {
     KTMenu menus;
     for (const WaymarkCommand& command : WaymarkCommand::all()) {
-        if (command.isPresent != nullptr && !command.isPresent(app))
+        if (!isPresent(command))
             continue;
         if (command.isMenu())
             menus.push_back(
@@ -94,10 +105,14 @@ KTMenu WaymarkMainMenu::mainMenu() const {
 }
 
 std::optional<KTMenuItem> WaymarkMainMenu::itemWithIdentifier(std::string_view identifier) const {
-    for (const WaymarkCommand& command : WaymarkCommand::all())
+    for (const WaymarkCommand& command : WaymarkCommand::all()) {
         if (command.action != nullptr && command.identifier == identifier)
-            return command.isPresent == nullptr || command.isPresent(app) ? std::optional(itemOf(command))
-                                                                          : std::nullopt;
+            return isPresent(command) ? std::optional(itemOf(command)) : std::nullopt;
+        if (command.submenu != nullptr)
+            for (KTMenuItem& item : command.submenu(app))
+                if (item.identifier == identifier)
+                    return std::move(item);
+    }
     return std::nullopt;
 }
 

@@ -32,6 +32,7 @@ public:
     bool performCommand(std::string_view identifier);
 
 private:
+    bool isPresent(const WaymarkCommand& command) const;
     KTMenuItem itemOf(const WaymarkCommand& command) const;
     void announceSoon();
 

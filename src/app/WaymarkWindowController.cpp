@@ -45,6 +45,7 @@ void WaymarkWindowController::setup(WaymarkUserInterface& userInterface) {
         std::make_unique<KTTimeZoneHUDController>(app.metadataFieldManager(), app.systemTimeZone());
     timeZonePanel->setToggleDateAndTimeShifter([this] { app.toggleDateAndTimeShifter(); });
     matches->setup();
+    app.trackPickerController()->setMatchController(matches.get());
     console->setup();
     timeZonePanel->setup();
 
@@ -61,6 +62,7 @@ void WaymarkWindowController::tearDown() {
     ownWindow.reset();
     timeZonePanel->tearDown();
     console->tearDown();
+    app.trackPickerController()->setMatchController(nullptr);
     matches->tearDown();
     mapAndToolbar->tearDown();
     map->saveLocation();

@@ -1,5 +1,6 @@
 #include "geotagging/KTAppTrackPickerController.h"
 
+#include "geotagging/KTPhotoMatchController.h"
 #include "platform/cartography/KTMapController.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/concurrency/KTMainThread.h"
@@ -120,4 +121,20 @@ void KTAppTrackPickerController::showOnMap(const std::optional<KTMapBounds>& bou
         map->revealBounds(*bounds);
     else
         map->fitBounds(*bounds);
+}
+
+void KTAppTrackPickerController::setMatchController(KTPhotoMatchController* knower) {
+    matchesObservation.stop();
+    matches = knower;
+    if (matches != nullptr)
+        matchesObservation = matches->observe([this](const KTChange& change) {
+            if (change.key == "matches")
+                change.isPrior ? willChange("matchedPhotos") : didChange("matchedPhotos");
+        });
+    willChange("matchedPhotos");
+    didChange("matchedPhotos");
+}
+
+std::size_t KTAppTrackPickerController::matchedPhotosOfTrack(std::int64_t track) const {
+    return matches == nullptr ? 0 : matches->matchedPhotosOfTrack(track);
 }

@@ -6,6 +6,7 @@
 #include "platform/tracklibrary/KTTrackPickerController.h"
 
 class KTMapController;
+class KTPhotoMatchController;
 
 /// The track library's window as the application has it: with entries for what
 /// was recorded near the loaded photos, and with a map that goes to what was
@@ -22,6 +23,12 @@ public:
     void setMapController(KTMapController* shownMap) { map = shownMap; }
     /// From now on the entries follow the photos and the imports.
     void setup();
+
+    /// Who knows how many photos match which track; null for nobody.
+    void setMatchController(KTPhotoMatchController* knower);
+    /// How many loaded photos would take their place from that track; 0 where nobody knows. Changes are
+    /// announced under "matchedPhotos".
+    std::size_t matchedPhotosOfTrack(std::int64_t track) const;
 
     // The smart files, in the order of the list
     const SmartFile& allWaypoints() const { return waypoints; } ///< "All Waypoints"
@@ -45,12 +52,13 @@ private:
 
     KTPhotoManager* photoManager = nullptr;
     KTMapController* map = nullptr;
+    KTPhotoMatchController* matches = nullptr;
     const SmartFile waypoints;
     const std::shared_ptr<KTSmartRecentImportsFile> recent;
     const std::shared_ptr<KTNearPhotosSmartFile> near;
     const std::shared_ptr<KTNearPhotosAndRecentImportsSmartFile> nearAndRecent;
     bool isRefreshDue = false, isRefreshing = false;
-    Observation photosObservation, importsObservation;
+    Observation photosObservation, importsObservation, matchesObservation;
     const std::shared_ptr<KTAppTrackPickerController*> self; // for what is posted
     KTOperationQueue lookUps;                                // last: its end is waited for first
 };

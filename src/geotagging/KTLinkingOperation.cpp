@@ -4,6 +4,8 @@
 #include "photo/KTPhoto.h"
 #include "platform/geodesy/KTGeodesy.h"
 
+#include <cmath>
+
 namespace {
 
 double metresBetween(const KTTrackNeighbour& left, const KTTrackNeighbour& right) {
@@ -45,6 +47,8 @@ KTLinkingOperation::Point KTLinkingOperation::timeWeightPointFromPoint(const KTG
     auto point = KTLinkablePoint::initWithGeoPoint(position, KTLinkablePointTypeTimeWeighted, thePhoto);
     point->setPrecedingDistance(metresBetween(*position, preceding));
     point->setNextDistance(metresBetween(*position, next));
+    point->setNeighboursSpanDateLine(std::abs(preceding.longitude->toDouble() - next.longitude->toDouble()) >
+                                     180);
     return point;
 }
 

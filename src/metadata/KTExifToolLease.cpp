@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr std::size_t kFilesThatRepayAnInterpreter = 16;
 constexpr std::size_t kMostBridges = 4; // of some 60 MB each
 
 struct Returned {
@@ -38,7 +37,7 @@ KTExifToolLease::~KTExifToolLease() {
     returned.tools.push_back(std::move(tool));
 }
 
-unsigned KTExifToolLease::usefulBridges(std::size_t files) {
-    const std::size_t useful = std::min(kMostBridges, 1 + files / kFilesThatRepayAnInterpreter);
+unsigned KTExifToolLease::usefulBridges(std::size_t files, std::size_t repayingOne) {
+    const std::size_t useful = std::min(kMostBridges, 1 + files / repayingOne);
     return static_cast<unsigned>(std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, useful));
 }

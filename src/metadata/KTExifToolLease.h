@@ -14,9 +14,9 @@ public:
 
     KTExifTool& operator*() const { return *tool; }
 
-    /// How many bridges, the shared one included, are worth having for work on @p files: one a core, four at
-    /// most for the sake of memory, and fewer where the files would not repay the making.
-    static unsigned usefulBridges(std::size_t files);
+    /// How many bridges, the shared one included, are worth having for work on @p files, of which
+    /// @p repayingOne repay the making and the memory of one: one a core, four at most.
+    static unsigned usefulBridges(std::size_t files, std::size_t repayingOne);
 
 private:
     std::unique_ptr<KTExifTool> tool;

@@ -1,5 +1,6 @@
 #include "metadata/KTPerlInterpreter.h"
 
+#include "metadata/KTPerlVersion.h"
 #include "platform/common/KTLog.h"
 #include "platform/common/KTText.h"
 
@@ -190,4 +191,9 @@ void KTPerlInterpreter::evaluateTriples(
             visit(group.description(), name.description(), std::move(value));
         }
     });
+}
+
+std::string KTPerlVersion() {
+    return std::to_string(PERL_REVISION) + "." + std::to_string(PERL_VERSION) + "." +
+           std::to_string(PERL_SUBVERSION);
 }

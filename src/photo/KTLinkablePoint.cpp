@@ -144,6 +144,13 @@ void KTLinkablePoint::setDistance(double& distance, double metres) {
     updateDescriptions();
 }
 
+std::string KTLinkablePoint::caution() const {
+    return spansDateLine
+               ? KTLocalizedString("The track crosses the 180° meridian here; the point lies on the "
+                                   "long way round the earth. Better take a track point beside it.")
+               : std::string();
+}
+
 void KTLinkablePoint::updateDescriptions() {
     if (type != KTLinkablePointTypeTimeWeighted)
         return;

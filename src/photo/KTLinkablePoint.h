@@ -68,6 +68,10 @@ public:
     double nextDistance() const;
     void setPrecedingDistance(double metres);
     void setNextDistance(double metres);
+    /// What is to be said of an interpolated point whose neighbours lie on either side of the 180° meridian;
+    /// empty for others.
+    std::string caution() const;
+    void setNeighboursSpanDateLine(bool span) { spansDateLine = span; }
     /// Describes an interpolated point by its distances, in the user's units; no effect on other points.
     void updateDescriptions();
 
@@ -124,6 +128,7 @@ private:
     std::shared_ptr<KTPhoto> madeFor;
     std::string nameOfPhoto, title;
     Observation units, reverseGeocoder;
+    bool spansDateLine = false;
     std::atomic<KTSpatialObjectController*> owner = nullptr;
 
     mutable std::mutex mutex; // guards what follows; never held while announcing, asking or waiting

@@ -34,12 +34,13 @@ KTLinkablePointBubble KTLinkablePointBubble::of(KTLinkablePoint& point) {
             .description = point.pointDescription(),
             .date = point.date() ? KTDateTimeFormatter().stringForObjectValue(*point.date()) : std::string(),
             .position = positionText(point),
+            .caution = point.caution(),
             .place = point.locationDescription()};
 }
 
 std::vector<std::string> KTLinkablePointBubble::lines() const {
     std::vector<std::string> shown;
-    for (const std::string& text : {description, date, position, place})
+    for (const std::string& text : {description, caution, date, position, place})
         if (!text.empty())
             shown.push_back(text);
     return shown;

@@ -10,6 +10,7 @@ struct KTLinkablePointBubble {
     std::string description; ///< "2 minutes before photo."
     std::string date;        ///< date and time in the application's display time zone
     std::string position;    ///< "47.55430° N, 7.59010° E, 260 m"
+    std::string caution;     ///< why the position is doubtful
     std::string place;       ///< its place names, or that they are being fetched
 
     /// Asks the gazetteer for the place names if nobody has. Any thread.

@@ -6,13 +6,16 @@
 namespace {
 
 constexpr std::size_t kLead = 32; // photos that may wait to be asked for
+/// To load one takes as long as to read some forty photos, which the first one reads meanwhile.
+constexpr std::size_t kFilesThatRepayAnInterpreter = 100;
 constexpr std::size_t kMemoryOfAnInterpreter = std::size_t(48) << 20;
 
 } // namespace
 
 KTPhotoReadAhead::KTPhotoReadAhead(std::vector<std::filesystem::path> photoFiles, unsigned threads)
     : files(std::move(photoFiles)) {
-    const unsigned count = threads != 0 ? threads : KTExifToolLease::usefulBridges(files.size());
+    const unsigned count =
+        threads != 0 ? threads : KTExifToolLease::usefulBridges(files.size(), kFilesThatRepayAnInterpreter);
     for (unsigned i = 0; i < count; ++i)
         readers.emplace_back([this, i] { readPhotos(i == 0); });
 }

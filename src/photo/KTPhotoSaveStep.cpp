@@ -1,9 +1,15 @@
 #include "photo/KTPhotoSaveStep.h"
 
+namespace {
+
+constexpr std::size_t kFilesThatRepayAnInterpreter = 16; // it proves half of what is to be done for each
+
+} // namespace
+
 std::vector<std::shared_ptr<KTOperation>> KTPhotoSaveStep::stepsForPhotos(const Photos& photos,
                                                                           const BackupFolder& backupFolder) {
     const auto proof = std::make_shared<ProofBridge>();
-    proof->isWorthwhile = KTExifToolLease::usefulBridges(photos.size()) > 1;
+    proof->isWorthwhile = KTExifToolLease::usefulBridges(photos.size(), kFilesThatRepayAnInterpreter) > 1;
     std::vector<std::shared_ptr<KTOperation>> steps;
     std::shared_ptr<Progress> previous;
     for (const auto& photo : photos) {

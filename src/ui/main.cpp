@@ -3,6 +3,7 @@
 #include "ui/application/ApplicationUserInterface.h"
 #include "ui/application/SingleInstance.h"
 #include "ui/map/AccessibleMap.h"
+#include "ui/windows/ToolWindow.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon::fromTheme(SingleInstance::kName));
     applyLook(application);
     AccessibleMap::install();
+    ToolWindow::installAccessibility();
 
     const SingleInstance::Paths files = filesFrom(argc, argv);
     if (SingleInstance::handedOver(files))

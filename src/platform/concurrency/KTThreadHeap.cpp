@@ -1,6 +1,7 @@
 #include "platform/concurrency/KTThreadHeap.h"
 
 #include <cstdlib>
+#include <malloc.h>
 #include <vector>
 
 namespace {
@@ -17,4 +18,8 @@ void KTReserveThreadHeap(std::size_t bytes) {
         block = std::malloc(kBlock);
     for (void* block : blocks)
         std::free(block);
+}
+
+void KTReturnFreeMemory() {
+    malloc_trim(0);
 }

@@ -113,6 +113,7 @@ constexpr KTSetting kSettings[] = {
     {"previousMapLatitude", Number},
     {"previousMapLongitude", Number},
     {"previousMapScale", Number},
+    {"recentTrackFiles", TextList},
 
     // Map tiles from a server
     {"mapTilesContact", Text, ""},

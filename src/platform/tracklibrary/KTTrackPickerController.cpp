@@ -55,6 +55,12 @@ void KTTrackPickerController::setWindowVisible(bool visible) {
     didChange("isWindowVisible");
 }
 
+void KTTrackPickerController::showWindowQuietly() {
+    isQuiet = true;
+    setWindowVisible(true);
+    isQuiet = false;
+}
+
 void KTTrackPickerController::refetchSoon() {
     if (std::exchange(isFetchDue, true))
         return;

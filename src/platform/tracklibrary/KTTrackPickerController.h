@@ -40,6 +40,9 @@ public:
     bool isFetching() const { return fetching; }
 
     void showWindow() { setWindowVisible(true); }
+    /// The same while the user is at work elsewhere: the keyboard stays where it is.
+    void showWindowQuietly();
+    bool isShownQuietly() const { return isQuiet; }
     /// Announced each time it is set: a window that is shown already comes forward.
     bool isWindowVisible() const { return isVisible; }
     void setWindowVisible(bool visible);
@@ -49,8 +52,12 @@ public:
     void importFilesAction();
     /// Imports what GPS receivers that are mounted as disks hold, or tells the user that there are none.
     void downloadFromGPSAction(std::vector<std::filesystem::path> mounts = KTGPSReceivers::mountFolders());
-    /// Imports, and tells the user of the files that could not be imported.
+    /// Imports, and tells the user of the files that could not be imported; the others become the first of
+    /// the recent ones.
     void importFilesAtPaths(const KTTrackManager::Paths& files);
+    /// The files imported last, the latest first, ten at most: the setting "recentTrackFiles". A change is
+    /// announced under "recentTrackFiles".
+    static KTTrackManager::Paths recentTrackFiles();
     /// Removes the selected tracks, and the waypoints of the files of which waypoints are selected; one step
     /// of undo.
     void removeSelectedAction();
@@ -64,6 +71,7 @@ private:
 
     void refetchSoon();
     void takeFetched(Fetched fetched);
+    void noteRecentFile(const std::filesystem::path& file);
     void presentProblems(std::string message, const std::vector<std::string>& problems);
     void writeGPX(const std::vector<std::int64_t>& tracks, const std::filesystem::path& file);
 
@@ -73,7 +81,7 @@ private:
     std::vector<SmartFile> entries;
     SmartFile selected;
     KTTrackSourceList list;
-    bool isVisible = false, fetching = false, isFetchDue = false;
+    bool isVisible = false, isQuiet = false, fetching = false, isFetchDue = false;
     std::uint64_t fetches = 0;
     int handler = 0;
     Observation entryObservation;

@@ -2,11 +2,19 @@
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/concurrency/KTThreadPool.h"
+#include "platform/defaults/KTUserDefaults.h"
 #include "platform/desktop/KTItemReplacement.h"
 #include "platform/tracklibrary/KTTrackPickerController.h"
 
 #include <algorithm>
 #include <fstream>
+
+namespace {
+
+constexpr std::string_view kRecentFiles = "recentTrackFiles";
+constexpr std::size_t kRecentFilesKept = 10;
+
+} // namespace
 
 void KTTrackPickerController::importFilesAction() {
     if (presenter == nullptr)
@@ -50,6 +58,8 @@ void KTTrackPickerController::importFilesAtPaths(const KTTrackManager::Paths& fi
         for (const KTTrackManager::ImportOfFile& import : imports)
             if (!import.result.succeeded())
                 problems.push_back(import.result.error);
+            else
+                (*controller)->noteRecentFile(import.file);
         if (problems.size() == 1)
             (*controller)
                 ->presentProblems(KTLocalizedString("A track file could not be imported."), problems);
@@ -60,6 +70,22 @@ void KTTrackPickerController::importFilesAtPaths(const KTTrackManager::Paths& fi
                                        {std::to_string(problems.size())}),
                     problems);
     });
+}
+
+KTTrackManager::Paths KTTrackPickerController::recentTrackFiles() {
+    const auto texts = KTUserDefaults::standardUserDefaults().textsForKey(kRecentFiles);
+    return {texts.begin(), texts.end()};
+}
+
+void KTTrackPickerController::noteRecentFile(const std::filesystem::path& file) {
+    auto& defaults = KTUserDefaults::standardUserDefaults();
+    auto files = defaults.textsForKey(kRecentFiles);
+    std::erase(files, file.string());
+    files.insert(files.begin(), file.string());
+    files.resize(std::min(files.size(), kRecentFilesKept));
+    willChange(kRecentFiles);
+    defaults.setValue(kRecentFiles, KTValue::listOfTexts(files));
+    didChange(kRecentFiles);
 }
 
 void KTTrackPickerController::presentProblems(std::string message, const std::vector<std::string>& problems) {

@@ -61,8 +61,11 @@ void ApplicationUserInterface::setClipboardText(const std::string& text) {
     QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
+/// Not QApplication::quit: it asks every window whether it may be closed, and the main window has the
+/// application asked in its turn, without end.
 void ApplicationUserInterface::terminate() {
-    QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
 }
 
 int ApplicationUserInterface::toolkitVersion() const {

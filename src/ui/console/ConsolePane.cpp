@@ -3,6 +3,7 @@
 #include "geotagging/KTAppTrackPickerController.h"
 #include "geotagging/KTGeotaggingConsoleViewController.h"
 #include "metadata/KTDateFormatters.h"
+#include "ui/application/ApplicationLook.h"
 #include "ui/console/BatchPanel.h"
 #include "ui/console/CameraClockView.h"
 #include "ui/console/CriteriaView.h"
@@ -10,8 +11,10 @@
 #include "ui/console/StandardPanel.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/PrimaryButton.h"
+#include "ui/support/SwitchButton.h"
 #include "ui/support/UIText.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -29,14 +32,18 @@ constexpr struct {
               {KTGeotaggingModeStandard, "Standard", "Shows the track points around one photo"}};
 
 /// A board with a heading, which scrolls where there is little room.
-QWidget* board(const QString& title, QWidget* content) {
+QWidget* board(const QString& name, const QString& title, QWidget* content) {
     auto* const frame = new QFrame;
+    frame->setAccessibleName(name);
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setAutoFillBackground(true);
-    frame->setBackgroundRole(QPalette::Base);
+    // Fields must stand out from the board, which in the dark they do by their ground alone.
+    const auto ground = isDarkPalette(QApplication::palette()) ? QPalette::AlternateBase : QPalette::Base;
+    frame->setBackgroundRole(ground);
     auto* const inner = new QWidget;
     auto* const column = new QVBoxLayout(inner);
-    column->setContentsMargins(12, 8, 12, 8);
+    column->setContentsMargins(12, 6, 12, 6);
+    column->setSpacing(4);
     if (!title.isEmpty()) {
         auto* const heading = new QLabel(title);
         QFont bold = heading->font();
@@ -51,9 +58,9 @@ QWidget* board(const QString& title, QWidget* content) {
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(inner);
     scroll->setFocusPolicy(Qt::NoFocus);
-    for (QWidget* ground : {static_cast<QWidget*>(inner), scroll->viewport()}) {
-        ground->setBackgroundRole(QPalette::Base);
-        ground->setAutoFillBackground(true);
+    for (QWidget* each : {static_cast<QWidget*>(inner), scroll->viewport()}) {
+        each->setBackgroundRole(ground);
+        each->setAutoFillBackground(true);
     }
     auto* const layout = new QVBoxLayout(frame);
     layout->setContentsMargins({});
@@ -72,9 +79,9 @@ ConsolePane::ConsolePane(KTGeotaggingConsoleViewController& consoleController, K
     panelPlace->setContentsMargins({});
     auto* const boards = new QHBoxLayout;
     boards->setSpacing(8);
-    boards->addWidget(board({}, place), 5);
-    boards->addWidget(board(uiText("Criteria"), new CriteriaView), 5);
-    boards->addWidget(board(uiText("Camera clock"), new CameraClockView(clock)), 5);
+    boards->addWidget(board(uiText("Proposed locations"), {}, place), 5);
+    boards->addWidget(board(uiText("Criteria"), uiText("Criteria"), new CriteriaView), 5);
+    boards->addWidget(board(uiText("Camera clock"), uiText("Camera clock"), new CameraClockView(clock)), 5);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 8);
     layout->setSpacing(6);
@@ -145,7 +152,7 @@ void ConsolePane::addModes(QHBoxLayout& line) {
 
 QToolButton* ConsolePane::addTool(QHBoxLayout& line, const QString& text, const char* icon,
                                   const QString& tip, const std::function<void()>& command) {
-    auto* const button = new QToolButton;
+    auto* const button = new SwitchButton;
     button->setText(text);
     button->setToolTip(tip);
     button->setFocusPolicy(Qt::TabFocus);

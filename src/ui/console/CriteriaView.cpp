@@ -69,14 +69,12 @@ CriteriaView::CriteriaView(QWidget* parent)
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->setSpacing(4);
+    layout->setSpacing(2);
     layout->addLayout(line({usesTime, time, labelFor(time, uiText("of a track point"))}));
     layout->addLayout(line({usesDistance, distance, labelFor(distance, uiText("apart"))}));
     layout->addLayout(line({labelFor(combination, uiText("Require")), combination}));
-    layout->addSpacing(4);
     layout->addWidget(nearest);
     layout->addWidget(weighted);
-    layout->addSpacing(4);
     layout->addWidget(skipsGeotagged);
     layout->addStretch();
     settingsObservation = observeFor(this, defaults(), {}, [this] { showSettings(); });

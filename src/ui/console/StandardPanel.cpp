@@ -75,6 +75,7 @@ void StandardPanel::describe(Row& row) {
         return;
     }
     QStringList lines = {QString::fromStdString(row.shown->pointDescription()),
+                         QString::fromStdString(row.shown->caution()),
                          QString::fromStdString(row.shown->locationDescription())};
     lines.removeAll(QString());
     row.text->setText(lines.join('\n'));

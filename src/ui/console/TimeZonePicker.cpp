@@ -35,7 +35,6 @@ TimeZonePicker::TimeZonePicker(std::function<void(const KTTimeZone&)> chosen, QW
     list->header()->setSectionResizeMode(TimeZoneList::NameColumn, QHeaderView::Stretch);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto* const use = buttons->addButton(uiText("Use Time Zone"), QDialogButtonBox::AcceptRole);
-    use->setDefault(true);
 
     auto* const label = new QLabel(uiText("The photos' times are read as times of this zone:"));
     label->setBuddy(field);
@@ -44,6 +43,7 @@ TimeZonePicker::TimeZonePicker(std::function<void(const KTTimeZone&)> chosen, QW
     for (QWidget* widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(field),
                             static_cast<QWidget*>(list), static_cast<QWidget*>(buttons)})
         layout->addWidget(widget);
+    use->setDefault(true); // once the dialog knows it
     connect(field, &QLineEdit::textChanged, this, &TimeZonePicker::narrow);
     connect(list, &QTreeView::doubleClicked, this, &TimeZonePicker::choose);
     connect(buttons, &QDialogButtonBox::accepted, this, &TimeZonePicker::choose);
@@ -55,6 +55,7 @@ TimeZonePicker::TimeZonePicker(std::function<void(const KTTimeZone&)> chosen, QW
 void TimeZonePicker::narrow(const QString& text) {
     narrowed->setFilterFixedString(text.trimmed().replace('_', ' '));
     list->setCurrentIndex(narrowed->index(0, 0));
+    list->scrollToTop();
 }
 
 /// The arrows move in the list while one types.

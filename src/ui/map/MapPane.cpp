@@ -47,17 +47,22 @@ void MapPane::makeScaleButtons(std::function<void()> fit) {
     auto* const column = new QVBoxLayout(scaleButtons);
     column->setContentsMargins({});
     column->setSpacing(0);
-    auto add = [&](const char* icon, const QString& name, std::function<void()> command) {
+    auto add = [&](const QString& sign, const QString& name, std::function<void()> command) {
         auto* const button = new QToolButton;
         setUp(*button, name);
-        button->setIcon(QIcon::fromTheme(icon));
+        if (sign.isEmpty())
+            button->setIcon(QIcon::fromTheme("zoom-fit-best"));
+        button->setText(sign);
+        QFont large = button->font();
+        large.setPointSizeF(large.pointSizeF() * 1.3);
+        button->setFont(large);
         button->setFixedSize(30, 30);
         connect(button, &QToolButton::clicked, this, [run = std::move(command)] { run(); });
         column->addWidget(button);
     };
-    add("zoom-in", uiText("Zoom In"), [this] { map->zoomBy(1); });
-    add("zoom-out", uiText("Zoom Out"), [this] { map->zoomBy(-1); });
-    add("zoom-fit-best", uiText("Fit the Selection"), std::move(fit));
+    add("+", uiText("Zoom In"), [this] { map->zoomBy(1); });
+    add(QString(QChar(0x2212)), uiText("Zoom Out"), [this] { map->zoomBy(-1); });
+    add({}, uiText("Fit the Selection"), std::move(fit));
 }
 
 void MapPane::makeSourceButton() {

@@ -2,6 +2,8 @@
 
 #include "metadata/KTDateFormatters.h"
 #include "photo/KTLinkablePoint.h"
+#include "photo/KTLinkablePointBubble.h"
+#include "platform/common/KTText.h"
 #include "ui/support/UIText.h"
 
 namespace {
@@ -19,10 +21,12 @@ MapHoverCard::Content describePoint(const std::shared_ptr<KTSpatialObject>& obje
                 {},
                 QString::fromStdString(object->featureName()),
                 QString::fromStdString(object->featureDescription())};
-    QStringList lines = {QString::fromStdString(point->pointLongDescription()), instantText(point->date()),
-                         QString::fromStdString(point->locationDescription())};
-    lines.removeAll(QString());
-    return {point.get(), {}, QString::fromStdString(point->pointTitle()), lines.join('\n')};
+    auto bubble = KTLinkablePointBubble::of(*point);
+    bubble.description = point->pointLongDescription(); // flags of many photos stand side by side
+    return {point.get(),
+            {},
+            QString::fromStdString(bubble.title),
+            QString::fromStdString(KTJoin(bubble.lines(), "\n"))};
 }
 
 MapHoverCard::Content describeTrack(const KTTrackLayer::Hit& hit) {

@@ -1,6 +1,7 @@
 #include "ui/photos/PhotoPane.h"
 
 #include "platform/defaults/KTUserDefaults.h"
+#include "ui/photos/PhotoViewOptions.h"
 #include "ui/photos/ThumbnailBrowser.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/UIText.h"
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -22,7 +24,8 @@ PhotoPane::PhotoPane(KTPhotoController& photoController, KTThumbnailService& thu
       tableView(new PhotoTableView(*list, photoController, thumbnails)),
       browser(new ThumbnailBrowser(*list, photoController, thumbnails)), stack(new QStackedWidget),
       selectionLine(new QLabel), nothingFound(new QLabel(uiText("No photo matches the filter."))),
-      sizeSlider(new QSlider(Qt::Horizontal)) {
+      sizeSlider(new QSlider(Qt::Horizontal)), viewOptions(new PhotoViewOptions(*tableView)) {
+    viewOptions->hide();
     list->setParent(this);
     nothingFound->setAlignment(Qt::AlignCenter);
     nothingFound->setForegroundRole(QPalette::PlaceholderText);
@@ -36,6 +39,7 @@ PhotoPane::PhotoPane(KTPhotoController& photoController, KTThumbnailService& thu
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(stack, 1);
+    layout->addWidget(viewOptions);
     layout->addWidget(makeFoot());
 
     connect(list, &QAbstractItemModel::modelReset, this, &PhotoPane::showView);
@@ -48,6 +52,7 @@ PhotoPane::PhotoPane(KTPhotoController& photoController, KTThumbnailService& thu
 
 PhotoPane::~PhotoPane() {
     // The views look at the model to the end.
+    delete viewOptions;
     delete tableView;
     delete browser;
 }
@@ -59,6 +64,10 @@ PhotoPane::View PhotoPane::shownView() {
 
 void PhotoPane::setShownView(View view) {
     KTUserDefaults::standardUserDefaults().setValue(kViewSetting, std::int64_t(view));
+}
+
+void PhotoPane::setViewOptionsShown(bool areShown) {
+    viewOptions->setVisible(areShown);
 }
 
 QWidget* PhotoPane::makeFoot() {

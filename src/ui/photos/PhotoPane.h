@@ -3,6 +3,7 @@
 #include "ui/photos/PhotoTableView.h"
 
 class QLabel;
+class PhotoViewOptions;
 class QSlider;
 class QStackedWidget;
 class ThumbnailBrowser;
@@ -18,6 +19,8 @@ public:
 
     PhotoListModel& model() { return *list; }
     PhotoTableView& table() { return *tableView; }
+    /// Hidden at first.
+    void setViewOptionsShown(bool areShown);
     /// As the setting counts.
     enum View : unsigned { Thumbnails = 0, Table = 1 };
     static View shownView();
@@ -35,5 +38,6 @@ private:
     QStackedWidget* stack;
     QLabel *selectionLine, *nothingFound;
     QSlider* sizeSlider;
+    PhotoViewOptions* viewOptions;
     KTObservable::Observation controllerObservation, settingObservation;
 };

@@ -8,6 +8,7 @@
 #include "ui/photos/PhotoPane.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/PrimaryButton.h"
+#include "ui/support/SwitchButton.h"
 #include "ui/support/UIText.h"
 
 #include <QButtonGroup>
@@ -37,7 +38,7 @@ MainToolBar::MainToolBar(WaymarkWindowController& windowController, QWidget* fil
     auto* const space = new QWidget;
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(space);
-    addPaneButton(WaymarkPane::MapView, uiText("Map"), "map-flat", uiText("Show or hide the map"));
+    addPaneButton(WaymarkPane::MapView, uiText("Map"), "map-globe", uiText("Show or hide the map"));
     addPaneButton(WaymarkPane::GeotaggingView, uiText("Geotag"), "mark-location",
                   uiText("Show or hide the geotagging console"));
     addPaneButton(WaymarkPane::MetadataView, uiText("Tags"), "documentinfo",
@@ -50,7 +51,7 @@ MainToolBar::MainToolBar(WaymarkWindowController& windowController, QWidget* fil
 
 QToolButton* MainToolBar::addButton(const QString& text, const char* icon, const QString& tip,
                                     std::function<void()> command) {
-    auto* const button = new QToolButton;
+    auto* const button = new SwitchButton;
     button->setText(text);
     button->setIcon(QIcon::fromTheme(icon));
     button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);

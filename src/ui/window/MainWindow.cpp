@@ -31,6 +31,7 @@
 namespace {
 
 constexpr QSize kUsualSize(1440, 900);
+constexpr QSize kFrame(8, 48); // what a window manager may need around it
 /// Whose visibility is kept, and under which names.
 constexpr std::pair<WaymarkPane, const char*> kPanes[] = {{WaymarkPane::MapView, "map"},
                                                           {WaymarkPane::GeotaggingView, "console"},
@@ -47,7 +48,10 @@ MainWindow::MainWindow(WaymarkWindowController& windowController, KTThumbnailSer
     setWindowTitle(uiText("Waymark"));
     setAcceptDrops(true);
     setMinimumSize(640, 400);
-    resize(kUsualSize.boundedTo(screen()->availableSize()));
+    const QSize room = screen()->availableSize() - kFrame;
+    resize(kUsualSize.boundedTo(room));
+    if (room.width() < kUsualSize.width() || room.height() < kUsualSize.height())
+        setWindowState(Qt::WindowMaximized); // as large as a small screen allows
     observations.push_back(controller.observe([this](const KTChange& change) {
         if (change.isPrior)
             return;
@@ -65,7 +69,7 @@ MainWindow::~MainWindow() {
 
 bool MainWindow::hasPane(WaymarkPane pane) const {
     return pane == WaymarkPane::MapView || pane == WaymarkPane::GeotaggingView ||
-           pane == WaymarkPane::ThumbnailView;
+           pane == WaymarkPane::ThumbnailView || pane == WaymarkPane::ViewOptions;
 }
 
 void MainWindow::showOrHide() {
@@ -161,6 +165,7 @@ void MainWindow::showPanes() {
     if (!isSetUp)
         return;
     photoPane->setVisible(controller.isPaneShown(WaymarkPane::ThumbnailView));
+    photoPane->setViewOptionsShown(controller.isPaneShown(WaymarkPane::ViewOptions));
     mapPane->setVisible(controller.isPaneShown(WaymarkPane::MapView));
     consolePane->setVisible(controller.isPaneShown(WaymarkPane::GeotaggingView));
     middle->setVisible(controller.isPaneShown(WaymarkPane::MapView) ||

@@ -21,8 +21,8 @@ bool isSensible(int pixels) {
 
 WindowState::WindowState() : file(stateFile(), QSettings::IniFormat) {}
 
-void WindowState::restoreGeometry(const QString& name, QWidget& window) const {
-    window.restoreGeometry(file.value(name + "/geometry").toByteArray()); // checks what it is given
+bool WindowState::restoreGeometry(const QString& name, QWidget& window) const {
+    return window.restoreGeometry(file.value(name + "/geometry").toByteArray()); // checks what it is given
 }
 
 void WindowState::saveGeometry(const QString& name, const QWidget& window) {

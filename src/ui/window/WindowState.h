@@ -13,7 +13,8 @@ public:
     /// windows.ini beside the user's settings.
     WindowState();
 
-    void restoreGeometry(const QString& name, QWidget& window) const;
+    /// False where nothing sound is kept.
+    bool restoreGeometry(const QString& name, QWidget& window) const;
     void saveGeometry(const QString& name, const QWidget& window);
     /// False where nothing sound is kept.
     bool restoreSizes(const QString& name, QSplitter& splitter) const;

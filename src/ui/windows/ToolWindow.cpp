@@ -3,14 +3,24 @@
 #include "ui/support/ObservationLink.h"
 #include "ui/window/WindowState.h"
 
+#include <QAccessibleWidget>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QScreen>
+
+void ToolWindow::installAccessibility() {
+    QAccessible::installFactory([](const QString& className, QObject* object) -> QAccessibleInterface* {
+        auto* const window = className == "ToolWindow" ? qobject_cast<ToolWindow*>(object) : nullptr;
+        return window ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+    });
+}
 
 ToolWindow::ToolWindow(const QString& name, const QString& title, QSize usualSize, Visibility visibility)
     : controller(std::move(visibility)) {
     setObjectName(name);
     setWindowTitle(title);
     resize(usualSize);
-    WindowState().restoreGeometry(name, *this);
+    isPlaced = WindowState().restoreGeometry(name, *this);
     observation = observeFor(this, controller.announced, controller.key, [this] { follow(); });
 }
 
@@ -27,9 +37,27 @@ void ToolWindow::follow() {
     if (!isMade)
         makeContent();
     isMade = true;
+    if (!std::exchange(isPlaced, true))
+        placeBesideMainWindow();
+    const bool isQuiet = controller.isQuiet && controller.isQuiet();
+    setAttribute(Qt::WA_ShowWithoutActivating, isQuiet);
     show();
     raise();
-    activateWindow();
+    if (!isQuiet)
+        activateWindow();
+}
+
+/// In the upper right corner of the main window: beside the photos and above the console, with which one
+/// goes on working.
+void ToolWindow::placeBesideMainWindow() {
+    constexpr int kMargin = 24;
+    for (const QWidget* const window : QApplication::topLevelWidgets())
+        if (window->inherits("QMainWindow") && window->isVisible()) {
+            const QRect room = window->screen()->availableGeometry();
+            const QRect main = window->geometry() & room;
+            resize(size().boundedTo(room.size() - QSize(2 * kMargin, 3 * kMargin)));
+            move(main.right() - width() - kMargin, main.top() + 3 * kMargin);
+        }
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

@@ -16,10 +16,14 @@ public:
         std::string key; ///< under which it announces
         std::function<bool()> isVisible;
         std::function<void(bool)> setVisible;
+        std::function<bool()> isQuiet = {}; ///< whether it is shown without taking the keyboard
     };
 
     ToolWindow(const QString& name, const QString& title, QSize usualSize, Visibility visibility);
     ~ToolWindow() override;
+
+    /// Lets assistive technology know these as windows. Once a process.
+    static void installAccessibility();
 
 protected:
     /// Makes what the window shows; called once.
@@ -29,8 +33,9 @@ protected:
 
 private:
     void follow();
+    void placeBesideMainWindow();
 
     const Visibility controller;
-    bool isMade = false;
+    bool isMade = false, isPlaced = false;
     KTObservable::Observation observation;
 };

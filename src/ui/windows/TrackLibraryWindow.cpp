@@ -1,6 +1,6 @@
 #include "ui/windows/TrackLibraryWindow.h"
 
-#include "platform/tracklibrary/KTTrackPickerController.h"
+#include "geotagging/KTAppTrackPickerController.h"
 #include "ui/support/CellList.h"
 #include "ui/support/DroppedPaths.h"
 #include "ui/support/ImportProgressLine.h"
@@ -18,11 +18,12 @@
 #include <QSplitter>
 #include <QTreeView>
 
-TrackLibraryWindow::TrackLibraryWindow(KTTrackPickerController& pickerController)
-    : ToolWindow("trackLibrary", uiText("Track Library"), {860, 480},
+TrackLibraryWindow::TrackLibraryWindow(KTAppTrackPickerController& pickerController)
+    : ToolWindow("trackLibrary", uiText("Track Library"), {780, 360},
                  {pickerController, "isWindowVisible",
                   [&pickerController] { return pickerController.isWindowVisible(); },
-                  [&pickerController](bool isVisible) { pickerController.setWindowVisible(isVisible); }}),
+                  [&pickerController](bool isVisible) { pickerController.setWindowVisible(isVisible); },
+                  [&pickerController] { return pickerController.isShownQuietly(); }}),
       controller(pickerController) {
     setAcceptDrops(true);
 }
@@ -32,7 +33,7 @@ void TrackLibraryWindow::makeContent() {
     columns->addWidget(makeSources());
     columns->addWidget(makeTracks());
     columns->setStretchFactor(1, 1);
-    columns->setSizes({180, 660});
+    columns->setSizes({130, 630});
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(columns, 1);
     layout->addWidget(makeFoot());
@@ -62,16 +63,18 @@ QListWidget* TrackLibraryWindow::makeSources() {
 
 QTreeView* TrackLibraryWindow::makeTracks() {
     sorted = new QSortFilterProxyModel(this);
-    sorted->setSourceModel(new TrackListModel(controller.trackSourceList(), this));
+    sorted->setSourceModel(new TrackListModel(controller, this));
     sorted->setSortRole(TrackListModel::SortRole);
     tracks = new QTreeView;
     setUpCellList(*tracks, uiText("Tracks and waypoints"));
     tracks->setModel(sorted);
     tracks->setSortingEnabled(true);
     tracks->sortByColumn(TrackListModel::BeginColumn, Qt::AscendingOrder);
-    tracks->setColumnWidth(TrackListModel::NameColumn, 230);
-    tracks->setColumnWidth(TrackListModel::BeginColumn, 140);
-    tracks->setColumnWidth(TrackListModel::EndColumn, 140);
+    tracks->setColumnWidth(TrackListModel::NameColumn, 140);
+    tracks->setColumnWidth(TrackListModel::BeginColumn, 132);
+    tracks->setColumnWidth(TrackListModel::EndColumn, 132);
+    tracks->setColumnWidth(TrackListModel::LengthColumn, 60);
+    tracks->setColumnWidth(TrackListModel::PointsColumn, 64);
     auto* const remove = new QAction(uiText("Remove"), tracks);
     remove->setShortcut(QKeySequence::Delete);
     remove->setShortcutContext(Qt::WidgetShortcut);

@@ -1,7 +1,7 @@
 #pragma once
 #include "ui/windows/ToolWindow.h"
 
-class KTTrackPickerController;
+class KTAppTrackPickerController;
 class QListWidget;
 class QSortFilterProxyModel;
 class QTreeView;
@@ -11,7 +11,7 @@ class QTreeView;
 class TrackLibraryWindow : public ToolWindow {
     Q_OBJECT
 public:
-    explicit TrackLibraryWindow(KTTrackPickerController& pickerController);
+    explicit TrackLibraryWindow(KTAppTrackPickerController& pickerController);
 
 protected:
     void makeContent() override;
@@ -26,7 +26,7 @@ private:
     void takeSelection();
     void showImport();
 
-    KTTrackPickerController& controller;
+    KTAppTrackPickerController& controller;
     QListWidget* sources = nullptr;
     QTreeView* tracks = nullptr;
     QSortFilterProxyModel* sorted = nullptr;

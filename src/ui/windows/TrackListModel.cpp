@@ -2,6 +2,7 @@
 
 #include "metadata/KTDateFormatters.h"
 #include "platform/common/KTUnitConverter.h"
+#include "ui/support/ObservationLink.h"
 #include "ui/support/UIText.h"
 
 #include <QIcon>
@@ -9,7 +10,7 @@
 
 namespace {
 
-constexpr const char* kTitles[] = {"Name", "Begin", "End", "Length", "Points"};
+constexpr const char* kTitles[] = {"Name", "Begin", "End", "Length", "Points", "Photos"};
 
 QString instantText(const std::optional<KTInstant>& instant) {
     return instant ? QString::fromStdString(KTDateTimeFormatter().stringForObjectValue(*instant)) : QString();
@@ -17,8 +18,13 @@ QString instantText(const std::optional<KTInstant>& instant) {
 
 } // namespace
 
-TrackListModel::TrackListModel(KTTrackSourceList& sourceList, QObject* parent)
-    : QAbstractTableModel(parent), list(sourceList), rows(sourceList.tracksAndWaypoints()) {
+TrackListModel::TrackListModel(KTAppTrackPickerController& pickerController, QObject* parent)
+    : QAbstractTableModel(parent), picker(pickerController), list(picker.trackSourceList()),
+      rows(list.tracksAndWaypoints()) {
+    matchesObservation = observeFor(this, picker, "matchedPhotos", [this] {
+        if (!rows->empty())
+            emit dataChanged(index(0, PhotosColumn), index(rowCount() - 1, PhotosColumn));
+    });
     observation = list.observe([this](const KTChange& change) {
         if (change.isPrior)
             return;
@@ -74,6 +80,10 @@ QString TrackListModel::text(const KTTrackRecord& record, int column) const {
                              *metres))
                    : QString();
     }
+    case PhotosColumn: {
+        const std::size_t photos = track ? picker.matchedPhotosOfTrack(track->id) : 0;
+        return photos ? QLocale().toString(qulonglong(photos)) : QString();
+    }
     default:
         return track ? QLocale().toString(qlonglong(track->pointCount)) : uiText("Waypoint");
     }
@@ -93,12 +103,16 @@ QVariant TrackListModel::sortValue(const KTTrackRecord& record, int column) cons
         return track ? list.lengthOfTrack(track->id).value_or(0) : 0;
     case PointsColumn:
         return track ? qlonglong(track->pointCount) : 0;
+    case PhotosColumn:
+        return track ? qulonglong(picker.matchedPhotosOfTrack(track->id)) : 0;
     default:
         return text(record, column);
     }
 }
 
 QVariant TrackListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Horizontal && role == Qt::ToolTipRole && section == PhotosColumn)
+        return uiText("How many of the loaded photos would take their place from this track");
     return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(uiText(kTitles[section]))
                                                                     : QVariant();
 }

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/tracklibrary/KTTrackSourceList.h"
+#include "geotagging/KTAppTrackPickerController.h"
 
 #include <QAbstractTableModel>
 
@@ -7,12 +7,12 @@
 class TrackListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
-    enum Column { NameColumn, BeginColumn, EndColumn, LengthColumn, PointsColumn, ColumnCount };
+    enum Column { NameColumn, BeginColumn, EndColumn, LengthColumn, PointsColumn, PhotosColumn, ColumnCount };
     /// For sorting by what stands behind the texts.
     static constexpr int SortRole = Qt::UserRole;
 
-    /// @p sourceList must outlive the model.
-    explicit TrackListModel(KTTrackSourceList& sourceList, QObject* parent = nullptr);
+    /// @p pickerController must outlive the model.
+    explicit TrackListModel(KTAppTrackPickerController& pickerController, QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : int(rows->size());
@@ -28,7 +28,8 @@ private:
     QString text(const KTTrackRecord& record, int column) const;
     std::optional<KTInstant> begin(const KTTrackRecord& record) const;
 
+    KTAppTrackPickerController& picker;
     KTTrackSourceList& list;
     KTTrackSourceList::Snapshot rows;
-    KTObservable::Observation observation;
+    KTObservable::Observation observation, matchesObservation;
 };

@@ -46,7 +46,11 @@ std::vector<AppPreferencesWindowController::Pane> allPanes() {
           "defaultLatLonShownShouldReverseGeocodeLocationShown", "defaultShouldSaveCityShown",
           "defaultShouldSaveStateShown", "defaultShouldSaveCountryShown",
           "defaultShouldOverwriteLocationShown"}},
-        {KTLocalizedString("Maps"), "Scroll", {"KTMapLaunchesToPreviousLocationDefault"}},
+        {KTLocalizedString("Maps"),
+         "Scroll",
+         {"KTMapLaunchesToPreviousLocationDefault", "mapTilesContact", "mapTilesPattern",
+          "mapTilesSubdomains", "mapTilesKey", "mapTilesAttribution", "mapTilesMinimumZoom",
+          "mapTilesMaximumZoom", "mapTilesSize", "mapTilesCountFromSouth", "mapTilesCacheMegabytes"}},
     };
 }
 

@@ -1,6 +1,7 @@
 #include "app/WaymarkAppController.h"
 
 #include "app/AppPreferencesWindowController.h"
+#include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkMainMenu.h"
 #include "app/WaymarkWindowController.h"
 #include "collection/KTBatchOperationController.h"
@@ -27,6 +28,7 @@ WaymarkAppController::WaymarkAppController(WaymarkUserInterface& screen, Waymark
 WaymarkAppController::~WaymarkAppController() {
     preferencesWindow.reset();
     tagDetailsWindow.reset();
+    mediaBrowserWindow.reset();
     trackPickerWindow.reset();
     operationLogWindow.reset();
     dateToolsWindow.reset();
@@ -60,6 +62,9 @@ void WaymarkAppController::setupControllers() {
     operationLog = std::make_unique<KTPhotoOperationWindowController>(photoManager());
     operationLog->setup();
     operationLogWindow = userInterface.makePhotoOperationWindow(*operationLog);
+    mediaBrowser = std::make_unique<MediaBrowserWindowController>(
+        userInterface.picturesFolder(), [this](const auto& paths) { importFilesAtPaths(paths); });
+    mediaBrowserWindow = userInterface.makeMediaBrowserWindow(*mediaBrowser);
     menu = std::make_unique<WaymarkMainMenu>(*this);
     menu->setup();
     importObservation = photoManager().observe([this](const KTChange& change) {
@@ -82,6 +87,8 @@ void WaymarkAppController::showWaymarkWindow() {
         menu->setup();
     }
     mainWindow->setWindowVisible(true);
+    if (!std::exchange(hasShownMediaBrowser, true) && MediaBrowserWindowController::defaultVisibility())
+        mediaBrowser->setWindowVisible(true);
     if (!std::exchange(hasToldLibraryProblem, true) && !model.trackLibraryProblem.empty())
         mainWindow->window()->presentAlert(
             {.message = KTLocalizedString("The track library cannot be used."),
@@ -137,6 +144,7 @@ void WaymarkAppController::closeMainWindow() {
 }
 
 WaymarkAppController::TerminateReply WaymarkAppController::applicationShouldTerminate() {
+    mediaBrowser->storeDefaults();
     const std::size_t unsaved = photoManager().unsavedPhotos()->size();
     if (unsaved == 0)
         return TerminateReply::Now;

@@ -10,6 +10,7 @@
 
 class AppPreferencesWindowController;
 class KTPhotoExportPluginMenuController;
+class MediaBrowserWindowController;
 class PhotoManagerMenuBarController;
 class WaymarkMainMenu;
 struct DroppedFiles;
@@ -52,6 +53,8 @@ public:
     KTAppTrackPickerController* trackPickerController() const { return trackPicker.get(); }
     PhotoManagerMenuBarController* photoManagerMenuBarController() const { return menuBarFlags.get(); }
     KTPhotoOperationWindowController* photoOperationWindowController() const { return operationLog.get(); }
+    MediaBrowserWindowController* mediaBrowserWindowController() const { return mediaBrowser.get(); }
+    bool hasMediaBrowserWindow() const { return mediaBrowserWindow != nullptr; }
     KTPhotoExportPluginMenuController* photoExportPluginMenuController() const { return exportMenu.get(); }
     /// The menu bar as data; from setupControllers() on.
     WaymarkMainMenu* mainMenu() const { return menu.get(); }
@@ -89,6 +92,7 @@ public:
     void toggleDateAndTimeCopier();
     void toggleTagDetailsWindow();
     void togglePhotoOperationWindow();
+    void toggleMediaBrowser();
     void toggleTrackPickerWindow() {}
     void showAboutBox() { userInterface.showAboutBox(); }
 
@@ -151,15 +155,17 @@ private:
     std::unique_ptr<PhotoManagerMenuBarController> menuBarFlags;
     std::unique_ptr<KTDateToolsWindowController> dateTools;
     std::unique_ptr<KTPhotoOperationWindowController> operationLog;
+    std::unique_ptr<MediaBrowserWindowController> mediaBrowser;
     std::unique_ptr<KTPhotoExportPluginMenuController> exportMenu;
     std::unique_ptr<WaymarkMainMenu> menu;
     std::unique_ptr<WaymarkWindowController> mainWindow;
     std::unique_ptr<KTTagDetailsWindowController> tagDetails;
     std::unique_ptr<AppPreferencesWindowController> preferences;
-    bool hasToldLibraryProblem = false, hasSelectedFirstPhotos = false, isAskingToQuit = false;
+    bool hasToldLibraryProblem = false, hasShownMediaBrowser = false, hasSelectedFirstPhotos = false,
+         isAskingToQuit = false;
     std::stop_source listingStop;
     Observation importObservation, mainWindowObservation, tagDetailsObservation, preferencesObservation;
     WaymarkUserInterface::Window tagDetailsWindow, operationLogWindow, trackPickerWindow, dateToolsWindow,
-        preferencesWindow;
+        mediaBrowserWindow, preferencesWindow;
     const std::shared_ptr<WaymarkAppController*> self; // for what is posted
 };

@@ -1,5 +1,6 @@
 #include "app/AppPreferencesWindowController.h"
 #include "app/KTMapAndToolbarViewController.h"
+#include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkWindowController.h"
 #include "collection/KTPhotoController.h"
@@ -85,6 +86,10 @@ void WaymarkAppController::handleTagDetailsWindowWillClose() {
 
 void WaymarkAppController::togglePhotoOperationWindow() {
     operationLog->setWindowVisible(!operationLog->isWindowVisible());
+}
+
+void WaymarkAppController::toggleMediaBrowser() {
+    mediaBrowser->setWindowVisible(!mediaBrowser->isWindowVisible());
 }
 
 void WaymarkAppController::loadTracksFromFile() {

@@ -1,5 +1,6 @@
 #include "app/WaymarkCommand.h"
 
+#include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkWindowController.h"
 #include "collection/KTPhotoManager.h"
@@ -50,6 +51,12 @@ bool canPlaceOnMap(const App& app) {
 }
 bool isOperationLogShown(const App& app) {
     return app.photoOperationWindowController()->isWindowVisible();
+}
+bool hasMediaBrowser(const App& app) {
+    return app.hasMediaBrowserWindow();
+}
+bool isMediaBrowserShown(const App& app) {
+    return app.mediaBrowserWindowController()->isWindowVisible();
 }
 bool hasDateTools(const App& app) {
     return app.hasDateToolsWindow();
@@ -160,6 +167,8 @@ const WaymarkCommand kCommands[] = {
 
     {"windowMenu", "Window"},
     {"openTrackAndWaypointBrowser", "Track Library", &App::openTrackAndWaypointBrowser, "Ctrl+T"},
+    {"toggleMediaBrowser", "Media Browser", &App::toggleMediaBrowser, "Ctrl+B", nullptr, hasMediaBrowser,
+     isMediaBrowserShown},
     {"toggleTagDetailsWindow", "Tag Details", &App::toggleTagDetailsWindow, "Ctrl+I", nullptr, nullptr,
      areTagDetailsShown},
     {"togglePhotoOperationWindow", "Operation Log", &App::togglePhotoOperationWindow, "Ctrl+L", nullptr, nullptr,

@@ -1,5 +1,6 @@
 #include "app/WaymarkMainMenu.h"
 
+#include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkCommand.h"
 #include "app/WaymarkWindowController.h"
@@ -39,6 +40,7 @@ void WaymarkMainMenu::setup() {
     follow(*app.photoOperationWindowController());
     follow(*app.dateToolsWindowController());
     follow(*app.trackPickerController());
+    follow(*app.mediaBrowserWindowController());
     follow(app);
     if (app.photoExportPluginMenuController() != nullptr)
         follow(*app.photoExportPluginMenuController());

@@ -5,6 +5,7 @@
 #include <string>
 
 class AppPreferencesWindowController;
+class MediaBrowserWindowController;
 class KTAppTrackPickerController;
 class KTDateToolsWindowController;
 class KTPhotoOperationWindowController;
@@ -38,6 +39,11 @@ public:
     /// On the screen while a tool is selected. Null where there is no such window: its commands are absent
     /// then.
     virtual Window makeDateToolsWindow(KTDateToolsWindowController& /*controller*/) { return nullptr; }
+
+    /// Null where there is no such window: its command is absent then.
+    virtual Window makeMediaBrowserWindow(MediaBrowserWindowController& /*controller*/) { return nullptr; }
+    /// The user's folder of pictures.
+    virtual std::filesystem::path picturesFolder() const { return {}; }
 
     /// Shows name, version and licences.
     virtual void showAboutBox() = 0;

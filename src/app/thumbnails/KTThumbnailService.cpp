@@ -3,6 +3,13 @@
 #include "app/thumbnails/ThumbnailDecoder.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/concurrency/KTMainThread.h"
+#include "platform/concurrency/KTThreadHeap.h"
+
+namespace {
+
+constexpr std::size_t kPicturesPerReturn = 12; // of the memory that decoding took
+
+} // namespace
 
 KTThumbnailService::KTThumbnailService(ThumbnailFileCache sharedCache, Limits chosenLimits)
     : cache(std::move(sharedCache)), limits(chosenLimits), self(std::make_shared<KTThumbnailService*>(this)) {
@@ -135,6 +142,12 @@ void KTThumbnailService::work() {
         else
             keep(key, std::move(picture.image));
         announceSoon();
+        if (plan.empty() && made - madeAtLastReturn >= kPicturesPerReturn) {
+            madeAtLastReturn = made;
+            lock.unlock();
+            KTReturnFreeMemory(); // decoding takes much for a short time
+            lock.lock();
+        }
     }
 }
 

@@ -88,7 +88,7 @@ private:
     KeptList kept;
     std::unordered_map<Key, KeptList::iterator, KeyHash> places;
     std::unordered_map<std::string, std::string> problems; // by file
-    std::size_t bytes = 0, made = 0;
+    std::size_t bytes = 0, made = 0, madeAtLastReturn = 0;
     bool isStopping = false;
     bool isAnnouncementDue = false;
 

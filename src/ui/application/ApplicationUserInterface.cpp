@@ -4,6 +4,7 @@
 #include "ui/window/MainWindow.h"
 #include "ui/windows/AboutBox.h"
 #include "ui/windows/DateToolsWindow.h"
+#include "ui/windows/MediaBrowserWindow.h"
 #include "ui/windows/OperationLogWindow.h"
 #include "ui/windows/PreferencesWindow.h"
 #include "ui/windows/TagDetailsWindow.h"
@@ -11,7 +12,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFile>
 #include <QLibraryInfo>
+#include <QStandardPaths>
 #include <QVersionNumber>
 
 ApplicationUserInterface::ApplicationUserInterface()
@@ -47,6 +50,16 @@ ApplicationUserInterface::makeTrackPickerWindow(KTAppTrackPickerController& cont
 WaymarkUserInterface::Window
 ApplicationUserInterface::makeDateToolsWindow(KTDateToolsWindowController& controller) {
     return std::make_unique<DateToolsWindow>(controller);
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makeMediaBrowserWindow(MediaBrowserWindowController& controller) {
+    return std::make_unique<MediaBrowserWindow>(controller, *thumbnails);
+}
+
+std::filesystem::path ApplicationUserInterface::picturesFolder() const {
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
+        .toStdString();
 }
 
 void ApplicationUserInterface::showAboutBox() {

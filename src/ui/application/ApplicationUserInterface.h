@@ -14,6 +14,8 @@ public:
     Window makePhotoOperationWindow(KTPhotoOperationWindowController& controller) override;
     Window makeTrackPickerWindow(KTAppTrackPickerController& controller) override;
     Window makeDateToolsWindow(KTDateToolsWindowController& controller) override;
+    Window makeMediaBrowserWindow(MediaBrowserWindowController& controller) override;
+    std::filesystem::path picturesFolder() const override;
     void showAboutBox() override;
     KTPresenter& presenter() override { return *alone; }
     std::string clipboardText() override;

@@ -55,7 +55,7 @@ QWidget* board(const QString& name, const QString& title, QWidget* content) {
     auto* const scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // in small windows
     scroll->setWidget(inner);
     scroll->setFocusPolicy(Qt::NoFocus);
     for (QWidget* each : {static_cast<QWidget*>(inner), scroll->viewport()}) {

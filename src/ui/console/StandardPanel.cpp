@@ -22,6 +22,7 @@ StandardPanel::StandardPanel(Controller& linkerController, QWidget* parent)
     : QWidget(parent), controller(linkerController) {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins({});
+    grid->setVerticalSpacing(1);
     grid->setColumnStretch(0, 1);
     addRow(*grid, &Controller::precedingPoint, &Controller::savePrecedingPointAction,
            uiText("Preceding track point"));
@@ -78,5 +79,5 @@ void StandardPanel::describe(Row& row) {
                          QString::fromStdString(row.shown->caution()),
                          QString::fromStdString(row.shown->locationDescription())};
     lines.removeAll(QString());
-    row.text->setText(lines.join('\n'));
+    row.text->setText(lines.join(' '));
 }

@@ -49,7 +49,7 @@ PhotoFilterBar::PhotoFilterBar(PhotoListModel& filtered, QWidget* parent)
     kindButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     kindButton->setToolTip(uiText("Which photos are shown"));
     auto* const layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
+    layout->setContentsMargins(8, 0, 0, 0);
     layout->setSpacing(4);
     layout->addWidget(field, 1);
     layout->addWidget(kindButton);

@@ -64,6 +64,7 @@ PhotoTableView::PhotoTableView(PhotoListModel& list, KTPhotoController& photoCon
             const int last = rowAt(viewport()->height() - 1);
             return ThumbnailWisher::Rows{rowAt(0), last < 0 ? model.rowCount() - 1 : last};
         },
+        [this](int row) { return model.photoAt(row)->fileURL(); },
         [this] { return columnWidth(PhotoListModel::ThumbnailColumn); });
     sortObservation =
         observeFor(this, controller.photoManager(), "photoSortDescriptors", [this] { showSortOrder(); });

@@ -49,7 +49,7 @@ ThumbnailBrowser::ThumbnailBrowser(PhotoListModel& list, KTPhotoController& phot
             return ThumbnailWisher::Rows{firstLine * perLine,
                                          std::min((lastLine + 1) * perLine, this->model()->rowCount()) - 1};
         },
-        [this] { return cells->edge(); });
+        [&list](int row) { return list.photoAt(row)->fileURL(); }, [this] { return cells->edge(); });
     settingObservation =
         observeFor(this, KTUserDefaults::standardUserDefaults(), {}, [this] { applySettings(); });
     applySettings();

@@ -1,7 +1,5 @@
 #include "ui/photos/ThumbnailWisher.h"
 
-#include "ui/photos/PhotoListModel.h"
-
 #include <QEvent>
 #include <QScrollBar>
 
@@ -12,9 +10,11 @@ constexpr std::chrono::milliseconds kPause{20};
 } // namespace
 
 ThumbnailWisher::ThumbnailWisher(QAbstractItemView& shown, KTThumbnailService& thumbnails,
-                                 std::function<Rows()> visibleRows, std::function<int()> edge)
+                                 std::function<Rows()> visibleRows,
+                                 std::function<std::filesystem::path(int row)> file,
+                                 std::function<int()> edge)
     : QObject(&shown), view(shown), service(thumbnails), rowsInView(std::move(visibleRows)),
-      edgeOfPictures(std::move(edge)) {
+      fileOf(std::move(file)), edgeOfPictures(std::move(edge)) {
     timer.setSingleShot(true);
     connect(&timer, &QTimer::timeout, this, &ThumbnailWisher::update);
     connect(view.verticalScrollBar(), &QScrollBar::valueChanged, this, &ThumbnailWisher::updateSoon);
@@ -50,13 +50,10 @@ void ThumbnailWisher::update() {
     const int page = rows.last - rows.first + 1;
     const int edge = int(edgeOfPictures() * view.devicePixelRatioF() + 0.5);
     auto wish = [&](int row) {
-        if (row >= 0 && row < count)
-            wishes.push_back({view.model()
-                                  ->index(row, 0)
-                                  .data(PhotoListModel::PhotoRole)
-                                  .value<PhotoListModel::Photo>()
-                                  ->fileURL(),
-                              edge});
+        if (row < 0 || row >= count)
+            return;
+        if (auto file = fileOf(row); !file.empty())
+            wishes.push_back({std::move(file), edge});
     };
     for (int row = rows.first; row <= rows.last + page; ++row)
         wish(row);

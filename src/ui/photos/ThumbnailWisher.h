@@ -12,9 +12,11 @@ public:
     struct Rows {
         int first = 0, last = -1;
     };
-    /// @p visibleRows tells which rows are in view, @p edge how large their pictures are, in logical pixels.
+    /// @p visibleRows tells which rows are in view, @p file whose picture a row shows (empty for none), @p
+    /// edge how large their pictures are, in logical pixels.
     ThumbnailWisher(QAbstractItemView& shown, KTThumbnailService& thumbnails,
-                    std::function<Rows()> visibleRows, std::function<int()> edge);
+                    std::function<Rows()> visibleRows, std::function<std::filesystem::path(int row)> file,
+                    std::function<int()> edge);
     ~ThumbnailWisher() override;
 
     /// The view shows something else soon.
@@ -29,6 +31,7 @@ private:
     QAbstractItemView& view;
     KTThumbnailService& service;
     const std::function<Rows()> rowsInView;
+    const std::function<std::filesystem::path(int row)> fileOf;
     const std::function<int()> edgeOfPictures;
     QTimer timer;
     KTObservable::Observation observation;

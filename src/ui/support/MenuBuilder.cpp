@@ -1,11 +1,13 @@
 #include "ui/support/MenuBuilder.h"
 
+#include "ui/support/UIText.h"
+
 #include <QCursor>
 #include <QMenu>
 
 void appendMenuItems(QMenu& menu, const KTMenu& items) {
     for (const KTMenuItem& item : items) {
-        const QString title = QString::fromStdString(item.title);
+        const QString title = uiTitle(item.title);
         if (item.isSeparator()) {
             menu.addSeparator();
         } else if (!item.submenu.empty()) {

@@ -2,6 +2,7 @@
 
 #include "app/WaymarkMainMenu.h"
 #include "ui/support/ObservationLink.h"
+#include "ui/support/UIText.h"
 
 #include <QMenu>
 
@@ -67,7 +68,7 @@ void MainMenuBar::fill(QMenu& menu, const KTMenu& items) {
 void MainMenuBar::show(QAction& action, const KTMenuItem& item) {
     if (item.isSeparator())
         return;
-    action.setText(QString::fromStdString(item.title));
+    action.setText(uiTitle(item.title));
     action.setData(QString::fromStdString(item.identifier));
     action.setEnabled(item.isEnabled);
     action.setShortcut(QKeySequence(QString::fromStdString(item.shortcut), QKeySequence::PortableText));

@@ -25,15 +25,14 @@ std::vector<std::filesystem::path> pathsFrom(const QStringList& names) {
 }
 
 /// "Files (*.jpg *.JPG …)"; letter case is significant in the filters of some dialogs.
-QString filterOf(const std::vector<std::string>& extensions) {
+QString filterOf(const QString& title, const std::vector<std::string>& extensions) {
     QStringList patterns;
     for (const std::string& extension : extensions) {
         const QString text = QString::fromStdString(extension);
         patterns << "*." + text << "*." + text.toUpper();
     }
     patterns.removeDuplicates();
-    return uiText("Files that can be opened") + " (" + patterns.join(' ') + ");;" + uiText("All files") +
-           " (*)";
+    return title + " (" + patterns.join(' ') + ");;" + uiText("All files") + " (*)";
 }
 
 void openFolderOf(const std::filesystem::path& file) {
@@ -69,7 +68,10 @@ void prepare(QFileDialog& dialog, const KTFilePanel& panel) {
     if (!panel.title.empty())
         dialog.setWindowTitle(QString::fromStdString(panel.title));
     if (!panel.allowedFileTypes.empty())
-        dialog.setNameFilter(filterOf(panel.allowedFileTypes));
+        dialog.setNameFilter(filterOf(panel.kind == KTFilePanel::Kind::SaveFile
+                                          ? uiText("Files of this kind")
+                                          : uiText("Files that can be opened"),
+                                      panel.allowedFileTypes));
     if (!panel.buttonText.empty())
         dialog.setLabelText(QFileDialog::Accept, QString::fromStdString(panel.buttonText));
     if (auto* const accessory = static_cast<QWidget*>(panel.accessoryView)) {
@@ -90,10 +92,10 @@ void WindowPresenter::presentAlert(KTAlert alert) {
     box->setInformativeText(QString::fromStdString(alert.informativeText));
     std::vector<QAbstractButton*> buttons;
     for (std::size_t i = 0; i < alert.buttons.size(); ++i)
-        buttons.push_back(box->addButton(QString::fromStdString(alert.buttons[i]),
-                                         i == 0                          ? QMessageBox::AcceptRole
-                                         : i == alert.buttons.size() - 1 ? QMessageBox::RejectRole
-                                                                         : QMessageBox::ActionRole));
+        buttons.push_back(box->addButton(uiTitle(alert.buttons[i]), i == 0 ? QMessageBox::AcceptRole
+                                                                    : i == alert.buttons.size() - 1
+                                                                        ? QMessageBox::RejectRole
+                                                                        : QMessageBox::ActionRole));
     if (!buttons.empty()) {
         box->setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
         box->setEscapeButton(buttons.back());

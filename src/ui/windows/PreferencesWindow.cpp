@@ -29,6 +29,15 @@ QIcon iconNamed(const std::string& name) {
     return {};
 }
 
+QLabel* heading(const QString& text) {
+    auto* const label = new QLabel(text);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->setContentsMargins(0, 12, 0, 0);
+    return label;
+}
+
 QLabel* faintLabel() {
     auto* const label = new QLabel;
     label->setWordWrap(true);
@@ -79,11 +88,13 @@ QWidget* PreferencesWindow::makePane(const AppPreferencesWindowController::Pane&
             addAltitude(*form);
         else if (key == "defaultSampleLatitude")
             addSample(*form);
-        else
+        else if (key == "mapTilesContact") {
+            addMapStart(*form);
+            form->addRow(heading(uiText("Tiles of a server, shown once it is chosen on the map")));
+            SettingControls::add(key, *form, *widget, observations);
+        } else
             SettingControls::add(key, *form, *widget, observations);
     }
-    if (pane.icon == "Scroll")
-        addMapStart(*form);
     return widget;
 }
 
@@ -147,5 +158,8 @@ void PreferencesWindow::addMapStart(QFormLayout& form) {
     auto* const button = new QPushButton(uiText("Begin Where the Map Is Now"));
     button->setToolTip(uiText("Keeps the map's present place, scale and source for later starts"));
     connect(button, &QPushButton::clicked, this, [this] { controller.setMapCenterDefaultAction(); });
-    form.addRow(button);
+    auto* const line = new QHBoxLayout;
+    line->addWidget(button);
+    line->addStretch();
+    form.addRow(line);
 }

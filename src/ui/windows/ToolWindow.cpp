@@ -20,12 +20,12 @@ ToolWindow::ToolWindow(const QString& name, const QString& title, QSize usualSiz
     setObjectName(name);
     setWindowTitle(title);
     resize(usualSize);
-    isPlaced = WindowState().restoreGeometry(name, *this);
+    isPlaced = !name.isEmpty() && WindowState().restoreGeometry(name, *this);
     observation = observeFor(this, controller.announced, controller.key, [this] { follow(); });
 }
 
 ToolWindow::~ToolWindow() {
-    if (isMade)
+    if (isMade && !objectName().isEmpty())
         WindowState().saveGeometry(objectName(), *this);
 }
 
@@ -45,6 +45,14 @@ void ToolWindow::follow() {
     raise();
     if (!isQuiet)
         activateWindow();
+}
+
+void ToolWindow::placeAt(const QRect& frame) {
+    if (QGuiApplication::screenAt(frame.center()) == nullptr)
+        return;
+    resize(frame.size());
+    move(frame.topLeft());
+    isPlaced = true;
 }
 
 /// In the upper right corner of the main window: beside the photos and above the console, with which one

@@ -7,7 +7,7 @@
 
 /// A window of a controller that says by "isWindowVisible" whether it is on the
 /// screen. Its content is made when it is first shown; its place is kept under
-/// its object name.
+/// its object name, if it has one.
 class ToolWindow : public QWidget, public KTWindow {
     Q_OBJECT
 public:
@@ -28,6 +28,8 @@ public:
 protected:
     /// Makes what the window shows; called once.
     virtual void makeContent() = 0;
+    /// Where it comes up, if some of that is on a screen.
+    void placeAt(const QRect& frame);
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

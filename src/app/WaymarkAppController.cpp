@@ -4,6 +4,8 @@
 #include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkMainMenu.h"
 #include "app/WaymarkWindowController.h"
+#include "app/editor/KTCopiedTags.h"
+#include "app/editor/KTMetadataEditorViewController.h"
 #include "collection/KTBatchOperationController.h"
 #include "collection/KTPhotoManager.h"
 #include "collection/KTPhotoOperationWindowController.h"
@@ -144,6 +146,7 @@ void WaymarkAppController::closeMainWindow() {
 }
 
 WaymarkAppController::TerminateReply WaymarkAppController::applicationShouldTerminate() {
+    commitEditing();
     mediaBrowser->storeDefaults();
     const std::size_t unsaved = photoManager().unsavedPhotos()->size();
     if (unsaved == 0)

@@ -9,6 +9,7 @@
 #include <vector>
 
 class AppPreferencesWindowController;
+class KTCopiedTags;
 class KTPhotoExportPluginMenuController;
 class MediaBrowserWindowController;
 class PhotoManagerMenuBarController;
@@ -76,6 +77,11 @@ public:
     /// The same for files that were given to the program; bundles of plug-ins are installed first.
     void importFilesFromOpenFilesAppDelegateAtPaths(const Paths& paths);
 
+    /// Ends what is being typed into the metadata editor, as an edit of its photos. The commands of the menu
+    /// bar begin with it. Not from code run by an announcement.
+    void commitEditing();
+    bool hasPendingEdit() const;
+
     // The end
     /// Stores what is to be kept, and asks the user where photos have unsaved changes.
     TerminateReply applicationShouldTerminate();
@@ -125,6 +131,11 @@ public:
     void copyCoordinates();
     /// Geotags the selected photos to the position that the text on the clipboard names.
     void pasteCoordinates();
+    /// The values of the first selected photo, to be pasted onto others.
+    void copyTags();
+    bool hasCopiedTags() const { return copiedTags != nullptr; }
+    /// Lets the user choose among the copied values, and gives these to the photos that are selected now.
+    void pasteTags();
     /// Geotags the selected photos to the map's centre.
     void geotagToMapCenter();
     /// The same, and then selects the next photo without a location.
@@ -161,6 +172,7 @@ private:
     std::unique_ptr<WaymarkWindowController> mainWindow;
     std::unique_ptr<KTTagDetailsWindowController> tagDetails;
     std::unique_ptr<AppPreferencesWindowController> preferences;
+    std::unique_ptr<KTCopiedTags> copiedTags;
     bool hasToldLibraryProblem = false, hasShownMediaBrowser = false, hasSelectedFirstPhotos = false,
          isAskingToQuit = false;
     std::stop_source listingStop;

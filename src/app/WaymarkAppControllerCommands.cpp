@@ -3,7 +3,10 @@
 #include "app/MediaBrowserWindowController.h"
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkWindowController.h"
+#include "app/editor/KTCopiedTags.h"
+#include "app/editor/KTMetadataEditorViewController.h"
 #include "collection/KTPhotoController.h"
+#include "collection/KTPhotoManager.h"
 #include "collection/KTPhotoOperationWindowController.h"
 #include "collection/KTTagDetailsWindowController.h"
 #include "datetools/KTDateToolsWindowController.h"
@@ -234,6 +237,33 @@ void WaymarkAppController::pasteCoordinates() {
          .informativeText = KTLocalizedString("Copy a position first, such as “46.05108, 14.50513” or "
                                               "“46° 3′ 3.9″ N, 14° 30′ 18.5″ E”."),
          .buttons = {KTLocalizedString("OK")}});
+}
+
+void WaymarkAppController::commitEditing() {
+    if (mainWindow && mainWindow->metadataEditorViewController() != nullptr)
+        mainWindow->metadataEditorViewController()->commitEditing();
+}
+
+bool WaymarkAppController::hasPendingEdit() const {
+    return mainWindow && mainWindow->metadataEditorViewController() != nullptr &&
+           mainWindow->metadataEditorViewController()->selection().hasPendingEdit();
+}
+
+void WaymarkAppController::copyTags() {
+    const auto selected = photoManager().selectedPhotos();
+    if (selected->empty())
+        return;
+    willChange("copiedTags");
+    copiedTags = std::make_unique<KTCopiedTags>(KTCopiedTags::fromPhoto(*selected->front()));
+    didChange("copiedTags");
+}
+
+void WaymarkAppController::pasteTags() {
+    const auto selected = photoManager().selectedPhotos();
+    if (mainWindow && copiedTags && !selected->empty())
+        mainWindow->window()->chooseTagsToPaste(
+            *copiedTags, selected->size(),
+            [this, selected](const KTCopiedTags& chosen) { chosen.pasteOnto(photoManager(), selected); });
 }
 
 void WaymarkAppController::geotagToMapCenter() {

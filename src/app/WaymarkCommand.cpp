@@ -19,7 +19,7 @@ using DateTools = KTDateToolsWindowController;
 
 // What commands need
 bool canUndo(const App& app) {
-    return app.undoManager()->canUndo();
+    return app.hasPendingEdit() || app.undoManager()->canUndo();
 }
 bool canRedo(const App& app) {
     return app.undoManager()->canRedo();
@@ -44,10 +44,14 @@ bool hasImageDirection(const App& app) {
 }
 bool canWrite(const App& app) {
     return hasWindow(app) &&
-           app.waymarkWindowController()->photoManagerToolbarController()->isUnsavedPhotosButtonEnabled();
+           (app.hasPendingEdit() ||
+            app.waymarkWindowController()->photoManagerToolbarController()->isUnsavedPhotosButtonEnabled());
 }
 bool canPlaceOnMap(const App& app) {
     return hasWindow(app) && hasSelectedPhotos(app);
+}
+bool canPasteTags(const App& app) {
+    return canPlaceOnMap(app) && app.hasCopiedTags();
 }
 bool isOperationLogShown(const App& app) {
     return app.photoOperationWindowController()->isWindowVisible();
@@ -84,6 +88,8 @@ std::string withAction(const char* verb, const std::string& action) {
     return action.empty() ? KTLocalizedString(verb) : KTLocalizedString(verb) + " " + action;
 }
 std::string undoTitle(const App& app) {
+    if (app.hasPendingEdit())
+        return KTLocalizedString("Undo Typing");
     return withAction("Undo", app.undoManager()->undoActionName());
 }
 std::string redoTitle(const App& app) {
@@ -121,6 +127,8 @@ const WaymarkCommand kCommands[] = {
     {},
     {"copyCoordinates", "Copy Coordinates", &App::copyCoordinates, "Ctrl+Shift+C", hasLocationCreated},
     {"pasteCoordinates", "Paste Coordinates", &App::pasteCoordinates, "Ctrl+Shift+V", canPlaceOnMap},
+    {"copyTags", "Copy Tags", &App::copyTags, "Ctrl+Alt+C", hasSelectedPhotos},
+    {"pasteTags", "Paste Tags…", &App::pasteTags, "Ctrl+Alt+V", canPasteTags},
     {},
     {"selectAllPhotos", "Select All Photos", &App::selectAllPhotos, "Ctrl+A", hasPhotos},
     {"deselectAllPhotos", "Deselect All Photos", &App::deselectAllPhotos, "Ctrl+Shift+A", hasSelectedPhotos},

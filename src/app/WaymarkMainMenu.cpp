@@ -4,6 +4,7 @@
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkCommand.h"
 #include "app/WaymarkWindowController.h"
+#include "app/editor/KTMetadataEditorViewController.h"
 #include "collection/KTPhotoManager.h"
 #include "collection/KTPhotoManagerToolbarController.h"
 #include "collection/KTPhotoOperationWindowController.h"
@@ -47,6 +48,8 @@ void WaymarkMainMenu::setup() {
     if (WaymarkWindowController* window = app.waymarkWindowController()) {
         follow(*window);
         follow(*window->photoManagerToolbarController());
+        if (window->metadataEditorViewController() != nullptr)
+            follow(window->metadataEditorViewController()->selection());
     }
     announceSoon();
 }
@@ -71,7 +74,11 @@ KTMenuItem WaymarkMainMenu::itemOf(const WaymarkCommand& command) const {
                 .identifier = std::string(command.identifier)};
     KTMenuItem item{.title = command.currentTitle != nullptr ? command.currentTitle(app)
                                                              : KTLocalizedString(command.title),
-                    .action = [this, &command] { (app.*command.action)(); },
+                    .action =
+                        [this, &command] {
+                            app.commitEditing();
+                            (app.*command.action)();
+                        },
                     .isEnabled = command.isEnabled == nullptr || command.isEnabled(app),
                     .identifier = std::string(command.identifier),
                     .shortcut = std::string(command.shortcut)};
@@ -101,8 +108,16 @@ KTMenu WaymarkMainMenu::mainMenu() const {
     for (KTMenuItem& menu : menus)
         if (!menu.submenu.empty() && menu.submenu.back().isSeparator())
             menu.submenu.pop_back();
-    if (app.photoExportPluginMenuController() != nullptr)
+    if (app.photoExportPluginMenuController() != nullptr) {
         app.photoExportPluginMenuController()->insertIntoMainMenu(menus);
+        for (KTMenuItem& menu : menus)
+            for (KTMenuItem& item : menu.submenu)
+                if (item.identifier.empty() && item.action)
+                    item.action = [this, run = std::move(item.action)] {
+                        app.commitEditing();
+                        run();
+                    };
+    }
     return menus;
 }
 

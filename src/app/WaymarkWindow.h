@@ -1,8 +1,11 @@
 #pragma once
 #include "app/WaymarkUserInterface.h"
 
+#include <functional>
 #include <optional>
 #include <string_view>
+
+class KTCopiedTags;
 
 /// The parts of the main window that can be shown and hidden.
 enum class WaymarkPane {
@@ -22,4 +25,8 @@ public:
     virtual KTViewHandle viewHandle() = 0;
     /// Whether the window has such a pane at all; commands for panes that it has not are absent.
     virtual bool hasPane(WaymarkPane pane) const = 0;
+    /// Lets the user choose which of the copied values @p photoCount photos get. @p paste is called once with
+    /// what was chosen; not at all when the user gives it up.
+    virtual void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t photoCount,
+                                   std::function<void(const KTCopiedTags& chosen)> paste) = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "app/KTMapAndToolbarViewController.h"
 #include "app/WaymarkAppController.h"
+#include "app/editor/KTMetadataCustomizationViewController.h"
 #include "collection/KTBatchOperationController.h"
 #include "collection/KTPhotoController.h"
 #include "collection/KTPhotoManagerToolbarController.h"
@@ -11,6 +12,7 @@
 #include "geotagging/KTGeotaggingController.h"
 #include "geotagging/KTPhotoMatchController.h"
 #include "geotagging/KTTimeZoneHUDController.h"
+#include "platform/defaults/KTComboBoxStoreController.h"
 
 WaymarkWindowController::WaymarkWindowController(WaymarkAppController& application) : app(application) {}
 
@@ -38,6 +40,11 @@ void WaymarkWindowController::setup(WaymarkUserInterface& userInterface) {
     geotagging->setup();
     mapAndToolbar->setup();
 
+    auto& typedTexts = KTComboBoxStoreController::sharedComboBoxStoreController();
+    metadataEditor =
+        std::make_unique<KTMetadataEditorViewController>(manager, app.metadataFieldManager(), typedTexts);
+    metadataCustomization = std::make_unique<KTMetadataCustomizationViewController>(
+        *metadataEditor, KTUserTemplates(KTUserTemplates::userFolder()));
     toolbar = std::make_unique<KTPhotoManagerToolbarController>(manager);
     matches = std::make_unique<KTPhotoMatchController>(*geotagging);
     console = std::make_unique<KTGeotaggingConsoleViewController>(*geotagging);
@@ -52,6 +59,8 @@ void WaymarkWindowController::setup(WaymarkUserInterface& userInterface) {
     ownWindow = userInterface.makeWaymarkWindow(*this);
     photos->setPhotoWindow(ownWindow.get());
     app.trackPickerController()->setPresenter(ownWindow.get());
+    metadataCustomization->setPresenter(ownWindow.get());
+    typedTexts.setPresenter(ownWindow.get());
 }
 
 void WaymarkWindowController::tearDown() {
@@ -59,6 +68,8 @@ void WaymarkWindowController::tearDown() {
         return;
     photos->setPhotoWindow(nullptr);
     app.trackPickerController()->setPresenter(nullptr);
+    metadataCustomization->setPresenter(nullptr);
+    KTComboBoxStoreController::sharedComboBoxStoreController().setPresenter(nullptr);
     ownWindow.reset();
     timeZonePanel->tearDown();
     console->tearDown();
@@ -79,7 +90,15 @@ void WaymarkWindowController::setWindowVisible(bool visible) {
 }
 
 void WaymarkWindowController::setPaneShown(WaymarkPane pane, bool isShown) {
+    using enum WaymarkPane;
     willChange("shownPanes");
     shown[std::size_t(pane)] = isShown;
+    if (pane == MetadataCustomizationView && isShown)
+        shown[std::size_t(MetadataView)] = true;
+    if (pane == MetadataView && !isShown)
+        shown[std::size_t(MetadataCustomizationView)] = false;
+    if (const bool isCustomizing = shown[std::size_t(MetadataCustomizationView)];
+        metadataEditor && metadataEditor->inCustomizationMode() != isCustomizing)
+        metadataEditor->setInCustomizationMode(isCustomizing);
     didChange("shownPanes");
 }

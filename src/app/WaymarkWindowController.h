@@ -10,6 +10,8 @@ class KTGeotaggingConsoleViewController;
 class KTGeotaggingController;
 class KTMapAndToolbarViewController;
 class KTMapController;
+class KTMetadataCustomizationViewController;
+class KTMetadataEditorViewController;
 class KTPhotoController;
 class KTPhotoManagerToolbarController;
 class KTPhotoMatchController;
@@ -42,6 +44,11 @@ public:
     KTTimeZoneHUDController* timeZoneHUDController() const { return timeZonePanel.get(); }
     /// What the status bar and "Write Changed Tags" show.
     KTPhotoManagerToolbarController* photoManagerToolbarController() const { return toolbar.get(); }
+    KTMetadataEditorViewController* metadataEditorViewController() const { return metadataEditor.get(); }
+    /// The templates of the metadata editor; they are read when its pane is shown.
+    KTMetadataCustomizationViewController* metadataCustomizationViewController() const {
+        return metadataCustomization.get();
+    }
     /// Why which photo has no match, for the photo table.
     KTPhotoMatchController* photoMatchController() const { return matches.get(); }
 
@@ -52,6 +59,7 @@ public:
 
     /// Which panes are shown; announced under "shownPanes". At first all but the customisation and the
     /// options.
+    /// The customisation is the metadata pane in another mode, which is shown with it and ends with it.
     bool isPaneShown(WaymarkPane pane) const { return shown[std::size_t(pane)]; }
     void setPaneShown(WaymarkPane pane, bool isShown);
     void toggleMetadataView() { toggle(WaymarkPane::MetadataView); }
@@ -72,6 +80,8 @@ private:
     std::unique_ptr<KTMapController> map;
     std::unique_ptr<KTGeotaggingController> geotagging;
     std::unique_ptr<KTMapAndToolbarViewController> mapAndToolbar;
+    std::unique_ptr<KTMetadataEditorViewController> metadataEditor;
+    std::unique_ptr<KTMetadataCustomizationViewController> metadataCustomization;
     std::unique_ptr<KTPhotoManagerToolbarController> toolbar;
     std::unique_ptr<KTPhotoMatchController> matches;
     std::unique_ptr<KTGeotaggingConsoleViewController> console;

@@ -8,6 +8,9 @@
 #include "platform/desktop/KTMediaObject.h"
 #include "platform/desktop/KTTypeIdentifiers.h"
 
+#include <cerrno>
+#include <sys/stat.h>
+
 KTPhoto::KTPhoto(std::filesystem::path file, std::shared_ptr<const KTMediaObject> item)
     : imageURL(std::move(file)),
       libraryItem(std::move(item)), dates{KTPhotoDateFamily(KTPhotoDateFamily::Original),
@@ -55,12 +58,16 @@ std::filesystem::path KTPhoto::xmpURL() const {
 }
 
 bool KTPhoto::hasXMPSidecar() const {
-    std::error_code error;
-    if (imageURL.empty() || std::filesystem::exists(xmpURL(), error))
-        return !imageURL.empty();
+    if (imageURL.empty())
+        return false;
+    // xmpURL, but asked for at each edit: without taking the path to pieces.
+    std::string sidecar = imageURL.native();
+    sidecar.resize(sidecar.size() - imageURL.extension().native().size());
+    struct stat status;
+    if (::stat((sidecar + ".xmp").c_str(), &status) == 0)
+        return true;
     // Where the disk does not answer, it counts as there: a save would else write into the image instead.
-    return error && error != std::errc::filename_too_long &&
-           error != std::errc::too_many_symbolic_link_levels;
+    return errno != ENOENT && errno != ENOTDIR && errno != ENAMETOOLONG && errno != ELOOP;
 }
 
 KTValue KTPhoto::uti() const {

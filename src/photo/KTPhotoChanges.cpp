@@ -57,6 +57,9 @@ void KTPhoto::recordEdit(std::string_view key, const KTValue& oldValue) {
     if (isSameReading(oldValue, valueForKey(key))) // a change of zone alone touches no tag
         return;
     KTPerformOnMainThreadAndWait([&] {
+        if (KTCallMark::count(&values) == 0)
+            sidecarOfGroup = hasXMPSidecar();
+        const KTCallMark isSidecarKnown(&sidecarOfGroup); // asked for once an edit
         // The value of now, not that of the announcement: of two edits at once the later record must win.
         changeRecords([&] { recordField(field, valueForKey(key), false); });
         checkForUnsavedChanges();

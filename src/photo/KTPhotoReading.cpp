@@ -153,7 +153,8 @@ KTValue KTPhoto::valueAsRead(const KTMetadataField& field, const Sources& from,
 }
 
 KTSaveTargets KTPhoto::targets() const {
-    const bool hasSidecar = KTCallMark::count(&values) > 0 ? sidecarOfGroup.load() : hasXMPSidecar();
+    const bool isKnown = KTCallMark::count(&values) > 0 || KTCallMark::count(&sidecarOfGroup) > 0;
+    const bool hasSidecar = isKnown ? sidecarOfGroup.load() : hasXMPSidecar();
     return saveTargets(
         imageURL, KTUserDefaults::standardUserDefaults().integerForKey("defaultXMPSidecarStyle"), hasSidecar);
 }

@@ -4,6 +4,7 @@
 #include "collection/SelectedPhotoObserver.h"
 #include "photo/KTPhotoPropertyTable.h"
 #include "photo/KTSameValue.h"
+#include "platform/common/KTCallContext.h"
 #include "platform/concurrency/KTMainThread.h"
 
 #include <algorithm>
@@ -40,21 +41,18 @@ KTEditorSelection::KTEditorSelection(KTPhotoManager& collection)
 
 KTEditorSelection::~KTEditorSelection() = default;
 
-/// The edit under way belongs to the photos that were selected before. It is done in a turn of its own:
-/// announcements may not wait for the undo queue.
+/// The edit under way belongs to the photos that were selected before.
 void KTEditorSelection::didSelect() {
     known.clear();
-    if (pending) {
-        const PendingEdit edit = *std::exchange(pending, std::nullopt);
-        edit.didEnd();
-        KTPerformOnMainThread(edit.commit);
-    }
+    unsaved.reset();
+    commitPendingEdit();
     willChange("photos");
     didChange("photos");
 }
 
 void KTEditorSelection::photoDidChange(std::string_view key) {
     if (isRecord(key)) {
+        unsaved.reset();
         for (auto& [field, knowledge] : known)
             knowledge.unsavedEdit = {};
     } else {
@@ -130,15 +128,24 @@ const std::vector<std::string>& KTEditorSelection::commonValuesForKey(const std:
     return *list;
 }
 
+const KTEditorSelection::Photos& KTEditorSelection::unsavedPhotos() const {
+    if (!unsaved) {
+        unsaved.emplace();
+        const Snapshot selected = photos();
+        std::ranges::copy_if(*selected, std::back_inserter(*unsaved),
+                             [](const auto& photo) { return photo->hasUnsavedChanges(); });
+    }
+    return *unsaved;
+}
+
 /// Goes on searching where the last call ended; what the announcement leads to is the next call.
 bool KTEditorSelection::hasUnsavedEdit(const std::string& key) const {
     Search& search = known[key].unsavedEdit;
-    const Snapshot selected = photos();
+    const Photos& candidates = unsavedPhotos();
     const auto begin = std::chrono::steady_clock::now();
-    for (; !search.isFound && search.next < selected->size(); ++search.next) {
-        const KTPhoto& photo = *(*selected)[search.next];
-        search.isFound = photo.hasUnsavedChanges() &&
-                         !KTIsSameValue(photo.valueForKey(key), photo.savedPropertyWithKey(key));
+    for (; !search.isFound && search.next < candidates.size(); ++search.next) {
+        const KTPhoto& photo = *candidates[search.next];
+        search.isFound = !KTIsSameValue(photo.valueForKey(key), photo.savedPropertyWithKey(key));
         if (search.next % 64 == 63 && std::chrono::steady_clock::now() - begin > kSearchTime) {
             announceSoon();
             break;
@@ -149,13 +156,27 @@ bool KTEditorSelection::hasUnsavedEdit(const std::string& key) const {
 
 void KTEditorSelection::beginEdit(PendingEdit edit) {
     commitPendingEdit();
-    pending = std::move(edit);
+    setPending(std::move(edit));
 }
 
+std::optional<KTEditorSelection::PendingEdit> KTEditorSelection::setPending(std::optional<PendingEdit> edit) {
+    willChange("hasPendingEdit");
+    auto old = std::exchange(pending, std::move(edit));
+    didChange("hasPendingEdit");
+    return old;
+}
+
+/// Announcements may not wait for the undo queue: from there, as when a sheet comes up and takes the keyboard
+/// away, the edit is done in a turn of its own.
 void KTEditorSelection::endEdit(bool isCommitted) {
     if (!pending)
         return;
-    const PendingEdit edit = *std::exchange(pending, std::nullopt);
-    isCommitted ? edit.commit() : edit.cancel();
+    const PendingEdit edit = *setPending(std::nullopt);
+    if (!isCommitted)
+        edit.cancel();
+    else if (KTCallout::isUnderWay())
+        KTPerformOnMainThread(edit.commit);
+    else
+        edit.commit();
     edit.didEnd();
 }

@@ -22,8 +22,9 @@ struct KTSelectedValue {
 /// under way.
 ///
 /// Announces "photos" when others are selected, and, once a turn of the event loop, the key of each field
-/// whose value changed and "hasUnsavedEdits". Values are found at the first call after a change, in some
-/// milliseconds for 20,000 photos that agree; the second photo that differs ends the search. Main thread.
+/// whose value changed and "hasUnsavedEdits"; "hasPendingEdit" at once. Values are found at the first call
+/// after a change, in some milliseconds for 20,000 photos that agree; the second photo that differs ends the
+/// search. Main thread.
 class KTEditorSelection : public KTObservable {
 public:
     using Photos = KTPhotoManager::Photos;
@@ -53,13 +54,14 @@ public:
     /// Commits the pending edit, if any, and begins another one.
     void beginEdit(PendingEdit edit);
     bool hasPendingEdit(const void* owner) const { return pending && pending->owner == owner; }
-    /// To be called before whatever works on the photos or ends the editor. Not from code run by an
-    /// announcement.
+    bool hasPendingEdit() const { return pending.has_value(); }
+    /// To be called before whatever works on the photos or ends the editor. Called from code run by an
+    /// announcement, the photos are changed soon after.
     void commitPendingEdit() { endEdit(true); }
     void cancelPendingEdit() { endEdit(false); }
 
 private:
-    /// For a photo, in arranged order.
+    /// For a photo, among the unsaved ones.
     struct Search {
         std::size_t next = 0;
         bool isFound = false;
@@ -74,12 +76,15 @@ private:
     void photoDidChange(std::string_view key);
     void announceSoon() const;
     void announce();
+    std::optional<PendingEdit> setPending(std::optional<PendingEdit> edit); // the former one
     void endEdit(bool isCommitted);
+    const Photos& unsavedPhotos() const;
     KTSelectedValue commonValue(const std::string& key) const;
 
     KTPhotoManager& manager;
     mutable std::map<std::string, Known, std::less<>> known;
     std::set<std::string, std::less<>> changedKeys; // not yet announced
+    mutable std::optional<Photos> unsaved;          // of the selected photos, when asked for
     mutable bool isAnnouncementDue = false;
     std::optional<PendingEdit> pending;
     std::unique_ptr<SelectedPhotoObserver> observer;

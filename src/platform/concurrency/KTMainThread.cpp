@@ -182,7 +182,8 @@ void MainCalls::close() {
 } // namespace
 
 bool KTMainThread::isCurrent() {
-    return ::gettid() == ::getpid();
+    thread_local const bool isMain = ::gettid() == ::getpid(); // two system calls, at each announcement
+    return isMain;
 }
 
 void KTMainThread::close() {

@@ -1,10 +1,10 @@
 #include "ui/window/MainToolBar.h"
 
 #include "app/WaymarkAppController.h"
+#include "app/WaymarkMainMenu.h"
 #include "app/WaymarkWindowController.h"
 #include "collection/KTPhotoManagerToolbarController.h"
 #include "platform/defaults/KTUserDefaults.h"
-#include "platform/undo/KTUndoManager.h"
 #include "ui/photos/PhotoPane.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/PrimaryButton.h"
@@ -30,8 +30,8 @@ MainToolBar::MainToolBar(WaymarkWindowController& windowController, QWidget* fil
         app.loadTracksFromFile();
     })->setAccessibleName(uiText("Add Tracks"));
     addSeparator();
-    undoButton = addButton({}, "edit-undo", {}, [this] { app.undoLastStep(); });
-    redoButton = addButton({}, "edit-redo", {}, [this] { app.redoLastStep(); });
+    undoButton = addButton({}, "edit-undo", {}, [this] { app.mainMenu()->performCommand("undo"); });
+    redoButton = addButton({}, "edit-redo", {}, [this] { app.mainMenu()->performCommand("redo"); });
     addSeparator();
     addViewButtons();
     addWidget(filterBar);
@@ -45,7 +45,7 @@ MainToolBar::MainToolBar(WaymarkWindowController& windowController, QWidget* fil
                   uiText("Show or hide the metadata of the selected photos"));
     addSeparator();
     addWriteButton();
-    observations.push_back(observeFor(this, *app.undoManager(), "undoState", [this] { showUndo(); }));
+    observations.push_back(observeFor(this, *app.mainMenu(), "mainMenu", [this] { showUndo(); }));
     showUndo();
 }
 
@@ -97,21 +97,24 @@ void MainToolBar::addWriteButton() {
     button->setAccessibleName(button->text());
     button->setToolTip(uiText("Write all unsaved changes to the photos"));
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [&toolbar] { toolbar.writeUnsavedChanges(); });
-    auto enable = [button, &toolbar] { button->setEnabled(toolbar.isUnsavedPhotosButtonEnabled()); };
-    observations.push_back(observeFor(this, toolbar, {}, enable));
+    WaymarkMainMenu& menu = *app.mainMenu();
+    connect(button, &QPushButton::clicked, this, [&menu] { menu.performCommand("writeChangedTags"); });
+    auto enable = [button, &menu] {
+        button->setEnabled(menu.itemWithIdentifier("writeChangedTags")->isEnabled);
+    };
+    observations.push_back(observeFor(this, menu, "mainMenu", enable));
     enable();
     addWidget(button);
 }
 
 void MainToolBar::showUndo() {
-    const KTUndoManager& undo = *app.undoManager();
-    auto show = [](QToolButton& button, bool can, const QString& verb, const std::string& step) {
-        const QString text = step.empty() ? verb : verb + ' ' + QString::fromStdString(step);
-        button.setEnabled(can);
+    auto show = [this](QToolButton& button, const char* command) {
+        const KTMenuItem item = app.mainMenu()->itemWithIdentifier(command).value_or(KTMenuItem());
+        const QString text = QString::fromStdString(item.title);
+        button.setEnabled(item.isEnabled);
         button.setToolTip(text);
         button.setAccessibleName(text);
     };
-    show(*undoButton, undo.canUndo(), uiText("Undo"), undo.undoActionName());
-    show(*redoButton, undo.canRedo(), uiText("Redo"), undo.redoActionName());
+    show(*undoButton, "undo");
+    show(*redoButton, "redo");
 }

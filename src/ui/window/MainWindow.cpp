@@ -4,10 +4,13 @@
 #include "app/WaymarkAppController.h"
 #include "app/WaymarkMainMenu.h"
 #include "app/WaymarkWindowController.h"
+#include "app/editor/KTMetadataCustomizationViewController.h"
 #include "geotagging/KTAppTrackPickerController.h"
 #include "geotagging/KTGeotaggingController.h"
 #include "geotagging/KTPhotoMatchController.h"
 #include "ui/console/ConsolePane.h"
+#include "ui/inspector/InspectorPane.h"
+#include "ui/inspector/PasteTagsSheet.h"
 #include "ui/map/MapPane.h"
 #include "ui/map/MapTracks.h"
 #include "ui/photos/PhotoFilterBar.h"
@@ -35,8 +38,9 @@ constexpr QSize kFrame(8, 48); // what a window manager may need around it
 /// Whose visibility is kept, and under which names.
 constexpr std::pair<WaymarkPane, const char*> kPanes[] = {{WaymarkPane::MapView, "map"},
                                                           {WaymarkPane::GeotaggingView, "console"},
-                                                          {WaymarkPane::ThumbnailView, "photos"}};
-constexpr int kUsualColumns[] = {372, 740};
+                                                          {WaymarkPane::ThumbnailView, "photos"},
+                                                          {WaymarkPane::MetadataView, "metadata"}};
+constexpr int kUsualColumns[] = {372, 740, 328};
 constexpr int kUsualMiddle[] = {520, 250};
 
 } // namespace
@@ -67,9 +71,8 @@ MainWindow::~MainWindow() {
         saveState();
 }
 
-bool MainWindow::hasPane(WaymarkPane pane) const {
-    return pane == WaymarkPane::MapView || pane == WaymarkPane::GeotaggingView ||
-           pane == WaymarkPane::ThumbnailView || pane == WaymarkPane::ViewOptions;
+bool MainWindow::hasPane(WaymarkPane) const {
+    return true;
 }
 
 void MainWindow::showOrHide() {
@@ -102,8 +105,10 @@ void MainWindow::setUp() {
     columns = new QSplitter(Qt::Horizontal);
     columns->addWidget(photoPane);
     columns->addWidget(middle);
+    addInspector();
     columns->setStretchFactor(1, 1);
     columns->setCollapsible(0, false);
+    columns->setCollapsible(2, false);
     auto* const centre = new QWidget;
     auto* const layout = new QVBoxLayout(centre);
     layout->setContentsMargins({});
@@ -149,6 +154,18 @@ void MainWindow::addConsole() {
     middle->setCollapsible(1, false);
 }
 
+void MainWindow::addInspector() {
+    inspector = new InspectorPane(
+        *controller.metadataEditorViewController(), *controller.metadataCustomizationViewController(),
+        [this](bool isOn) { controller.setPaneShown(WaymarkPane::MetadataCustomizationView, isOn); });
+    columns->addWidget(inspector);
+}
+
+void MainWindow::chooseTagsToPaste(const KTCopiedTags& tags, std::size_t photoCount,
+                                   std::function<void(const KTCopiedTags& chosen)> paste) {
+    (new PasteTagsSheet(tags, photoCount, std::move(paste), this))->open();
+}
+
 /// Why which photo has no match, in the table.
 void MainWindow::showMatches() {
     KTPhotoMatchController& matches = *controller.photoMatchController();
@@ -167,6 +184,7 @@ void MainWindow::showPanes() {
     photoPane->setVisible(controller.isPaneShown(WaymarkPane::ThumbnailView));
     photoPane->setViewOptionsShown(controller.isPaneShown(WaymarkPane::ViewOptions));
     mapPane->setVisible(controller.isPaneShown(WaymarkPane::MapView));
+    inspector->setVisible(controller.isPaneShown(WaymarkPane::MetadataView));
     consolePane->setVisible(controller.isPaneShown(WaymarkPane::GeotaggingView));
     middle->setVisible(controller.isPaneShown(WaymarkPane::MapView) ||
                        controller.isPaneShown(WaymarkPane::GeotaggingView));

@@ -12,7 +12,7 @@ class PhotoPane;
 class QSplitter;
 class WaymarkWindowController;
 
-/// The main window: menu bar, tool bar, photos, map above console, status bar.
+/// The main window: menu bar, tool bar, photos, map above console, inspector, status bar.
 /// Takes files that are dropped on it. Its parts are made by setUp(), once
 /// their controllers are.
 class MainWindow : public QMainWindow, public WaymarkWindow {
@@ -23,6 +23,9 @@ public:
 
     KTViewHandle viewHandle() override { return static_cast<QWidget*>(this); }
     bool hasPane(WaymarkPane pane) const override;
+
+    void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t photoCount,
+                           std::function<void(const KTCopiedTags& chosen)> paste) override;
 
     void presentAlert(KTAlert alert) override { presenter.presentAlert(std::move(alert)); }
     void presentFilePanel(KTFilePanel panel) override { presenter.presentFilePanel(std::move(panel)); }
@@ -44,6 +47,7 @@ private:
     void setUp();
     void addMap();
     void addConsole();
+    void addInspector();
     void showMatches();
     void showOrHide();
     void showPanes();
@@ -57,7 +61,7 @@ private:
     WindowState state;
     bool isSetUp = false;
     PhotoPane* photoPane = nullptr;
-    QWidget *mapPane = nullptr, *consolePane = nullptr;
+    QWidget *mapPane = nullptr, *consolePane = nullptr, *inspector = nullptr;
     QSplitter *columns = nullptr, *middle = nullptr;
     DropHighlight* dropHighlight;
     std::vector<KTObservable::Observation> observations;

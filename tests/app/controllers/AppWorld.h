@@ -38,6 +38,10 @@ struct FakeUserInterface : WaymarkUserInterface {
         bool hasPane(WaymarkPane pane) const override {
             return pane != WaymarkPane::MetadataView && pane != WaymarkPane::MetadataCustomizationView;
         }
+        void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t,
+                               std::function<void(const KTCopiedTags&)> paste) override {
+            paste(tags);
+        }
         FakeUserInterface& ui;
     };
     struct OtherWindow : KTWindow {

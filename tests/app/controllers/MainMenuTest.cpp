@@ -1,3 +1,5 @@
+#include "app/editor/KTMetadataEditorViewController.h"
+#include "app/editor/KTMetadataFieldArrayViewItem.h"
 #include "datetools/KTDateToolsWindowController.h"
 #include "geotagging/KTTimeZoneHUDController.h"
 #include "tests/app/controllers/AppWorld.h"
@@ -93,4 +95,49 @@ TEST(MainMenuTest, FollowsSelectionUndoPanesAndPlugins) {
     EXPECT_TRUE(runEventLoopUntil([&] { return announced > 0; }));
     EXPECT_EQ(menu.itemWithIdentifier("toggleMap")->isChecked, false);
     EXPECT_FALSE(world.app.waymarkWindowController()->isPaneShown(WaymarkPane::MapView));
+}
+
+TEST(MainMenuTest, EndsWhatIsBeingTypedAndPastesCopiedTags) {
+    AppWorld world;
+    world.start();
+    KTPhotoManager::Photos photos;
+    for (const char* name : {"a.jpg", "b.jpg"}) {
+        photos.push_back(KTPhoto::initWithFile(makePhoto(world.folder, name)));
+        world.manager.addNewPhoto(photos.back());
+    }
+    WaymarkMainMenu& menu = *world.app.mainMenu();
+    world.manager.setSelectedPhotos({photos[0]});
+    KTMetadataEditorViewController& editor =
+        *world.app.waymarkWindowController()->metadataEditorViewController();
+    const auto field = world.app.metadataFieldManager().metadataFieldForKey("title")->copy();
+    const auto item = editor.arrayViewItemForObject(*editor.groups().front(), field);
+    item->setText("Ford");
+    EXPECT_EQ(menu.itemWithIdentifier("undo")->title, "Undo Typing");
+    EXPECT_TRUE(menu.itemWithIdentifier("writeChangedTags")->isEnabled);
+    EXPECT_FALSE(menu.itemWithIdentifier("pasteTags")->isEnabled);
+    EXPECT_TRUE(menu.performCommand("copyTags"));
+    EXPECT_FALSE(item->isEditing());
+    EXPECT_EQ(menu.itemWithIdentifier("undo")->title, "Undo Edit Title");
+
+    world.manager.setSelectedPhotos({photos[1]});
+    EXPECT_TRUE(menu.performCommand("pasteTags"));
+    EXPECT_EQ(photos[1]->valueForKey("title"), "Ford");
+    EXPECT_EQ(menu.itemWithIdentifier("undo")->title, "Undo Paste Tags");
+    item->setText("Bridge");
+    EXPECT_TRUE(menu.performCommand("undo"));
+    EXPECT_EQ(photos[1]->valueForKey("title"), "Ford") << "the typing alone was taken back";
+}
+
+TEST(MainMenuTest, CustomizesTheMetadataPaneWithIt) {
+    AppWorld world;
+    world.start();
+    WaymarkWindowController& window = *world.app.waymarkWindowController();
+    using enum WaymarkPane;
+    window.setPaneShown(MetadataView, false);
+    window.setPaneShown(MetadataCustomizationView, true);
+    EXPECT_TRUE(window.isPaneShown(MetadataView));
+    EXPECT_TRUE(window.metadataEditorViewController()->inCustomizationMode());
+    window.setPaneShown(MetadataView, false);
+    EXPECT_FALSE(window.isPaneShown(MetadataCustomizationView));
+    EXPECT_FALSE(window.metadataEditorViewController()->inCustomizationMode());
 }

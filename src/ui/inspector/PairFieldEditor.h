@@ -1,0 +1,21 @@
+#pragma once
+#include "ui/inspector/FieldEditor.h"
+
+class TagLineEdit;
+
+/// Two lines side by side: latitude and longitude, or date and time. A date can be picked from a calendar.
+class PairFieldEditor : public FieldEditor {
+    Q_OBJECT
+public:
+    explicit PairFieldEditor(Item& edited);
+
+    void showValue() override;
+    QList<QWidget*> fields() const override;
+    void setNames(const QString& name, const QString& secondName, const QString& help) override;
+
+private:
+    void pickDate();
+
+    TagLineEdit *first, *second;
+    QAction* calendar = nullptr;
+};

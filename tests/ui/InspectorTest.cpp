@@ -1,0 +1,423 @@
+#include "app/editor/KTCopiedTags.h"
+#include "app/editor/KTMetadataCustomizationViewController.h"
+#include "tests/app/editor/EditorFixture.h"
+#include "ui/inspector/ArrangementView.h"
+#include "ui/inspector/FieldLabel.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/GroupTreeModel.h"
+#include "ui/inspector/InspectorPane.h"
+#include "ui/inspector/ListFieldView.h"
+#include "ui/inspector/PasteTagsSheet.h"
+#include "ui/inspector/RatingStars.h"
+#include "ui/inspector/TagLineEdit.h"
+#include "ui/inspector/TagTextEdit.h"
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+#include <set>
+
+namespace {
+
+/// The inspector in a window whose menu undoes, over a collection of small photos.
+class InspectorTest : public EditorFixture {
+protected:
+    void SetUp() override {
+        EditorFixture::SetUp();
+        KTUserDefaults::standardUserDefaults().setValue("defaultAssumedTimeZoneOffset", 0);
+    }
+
+    void show(std::initializer_list<const char*> keys) {
+        auto shown = KTMetadataGroup::initWithName("Tags");
+        for (const char* key : keys)
+            shown->addField(catalogue.metadataFieldForKey(key)->copy());
+        editor.setGroups({shown});
+        show();
+    }
+    void show() {
+        pane = new InspectorPane(editor, customization,
+                                 [this](bool isOn) { editor.setInCustomizationMode(isOn); });
+        window.setCentralWidget(pane);
+        QAction* const undoAction = window.menuBar()->addMenu("Edit")->addAction("Undo");
+        undoAction->setShortcut(QKeySequence::Undo);
+        QObject::connect(undoAction, &QAction::triggered, pane, [this] {
+            editor.commitEditing();
+            undo->undo();
+        });
+        window.resize(340, 700);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));
+        settle();
+    }
+    void settle() {
+        for (int i = 0; i < 3; ++i)
+            turn();
+        QCoreApplication::processEvents();
+    }
+    void selectAndSettle(const KTPhotoManager::Photos& photos) {
+        select(photos);
+        settle();
+    }
+    template<class Widget = TagLineEdit>
+    Widget& field(const char* name) {
+        for (Widget* const widget : window.findChildren<Widget*>())
+            if (widget->accessibleName() == name)
+                return *widget;
+        throw std::runtime_error(std::string("no field ") + name);
+    }
+    KTPhotoManager::Photos copies(std::size_t count, const KTTagDictionary& tags = {}) {
+        const auto model = KTPhoto::initWithFile(makePhoto(folder, "model.jpg", tags));
+        for (std::size_t i = 0; i < count; ++i)
+            manager.insertObject(model->copyWithZone(), i);
+        return *manager.photos();
+    }
+    static std::size_t countOf(const KTPhotoManager::Photos& photos, const char* key, const KTValue& value) {
+        return std::size_t(std::ranges::count_if(
+            photos, [&](const auto& photo) { return photo->valueForKey(key) == value; }));
+    }
+    void leave(QWidget& widget) {
+        QTest::keyClick(&widget, Qt::Key_Tab);
+        settle();
+    }
+
+    KTMetadataCustomizationViewController customization{editor, KTUserTemplates(folder / "templates")};
+    QMainWindow window;
+    InspectorPane* pane = nullptr;
+};
+
+} // namespace
+
+TEST_F(InspectorTest, TypesACaptionAndAKeywordOntoFiveHundredPhotos) {
+    const auto photos = copies(500, {{"IPTC:Keywords", KTValue::listOfTexts({"river"})}});
+    photos[7]->setValueForKey("title", "one of them");
+    selectAll();
+    show({"caption", "keywords", "title", "rating"});
+    auto& caption = field<TagTextEdit>("Description, Tags");
+    caption.setFocus();
+    QTest::keyClicks(&caption, "At the ford");
+    leave(caption);
+    EXPECT_EQ(countOf(photos, "caption", "At the ford"), 500u);
+    EXPECT_EQ(undo->undoActionName(), "Edit Description");
+
+    auto& keywords = field<ListFieldView>("Keywords, Tags");
+    ASSERT_TRUE(keywords.hasFocus());
+    QTest::keyClicks(&keywords, "f"); // begins in the row for adding
+    auto* const cell = keywords.findChild<TagLineEdit*>();
+    ASSERT_NE(cell, nullptr);
+    QTest::keyClicks(cell, "ord");
+    QTest::keyClick(cell, Qt::Key_Return);
+    settle();
+    const auto lists = countOf(photos, "keywords", KTValue::listOfTexts({"river", "ford"}));
+    EXPECT_EQ(lists, 500u);
+    ASSERT_NE(keywords.findChild<TagLineEdit*>(), nullptr) << "the next one can be typed at once";
+    QTest::keyClick(keywords.findChild<TagLineEdit*>(), Qt::Key_Escape);
+    settle();
+
+    auto& stars = field<RatingStars>("Rating, Tags");
+    stars.setFocus();
+    QTest::keyClick(&stars, Qt::Key_4);
+    settle();
+    EXPECT_EQ(countOf(photos, "rating", 4), 500u);
+    EXPECT_EQ(stars.value(), 4);
+
+    EXPECT_EQ(field("Title, Tags").placeholderText(), "Multiple values");
+    EXPECT_EQ(field("Title, Tags").text(), "");
+    undo->undo();
+    undo->undo();
+    undo->undo();
+    EXPECT_EQ(countOf(photos, "caption", {}), 500u) << "three edits, three steps";
+    EXPECT_EQ(countOf(photos, "title", "one of them"), 1u) << "what nobody touched is as it was";
+    settle();
+    EXPECT_EQ(caption.toPlainText(), "");
+    EXPECT_EQ(stars.value(), 0);
+}
+
+TEST_F(InspectorTest, GivesWhatIsTypedToThePhotosOfItsBeginning) {
+    const auto first = add("a.jpg"), second = add("b.jpg", {{"XMP:Label", "blue"}});
+    selectAndSettle({first});
+    show({"title", "label", "keywords"});
+    auto& title = field("Title, Tags");
+    title.setFocus();
+    QTest::keyClicks(&title, "Ford");
+    selectAndSettle({second}); // by another view; the keyboard stays
+    EXPECT_EQ(textOf(*first, "title"), "Ford");
+    EXPECT_EQ(title.text(), "");
+    EXPECT_EQ(field("Label, Tags").text(), "blue");
+    QTest::keyClicks(&title, "Bridge");
+    QTest::keyClick(&title, Qt::Key_Return);
+    EXPECT_EQ(textOf(*first, "title") + textOf(*second, "title"), "FordBridge");
+
+    auto& keywords = field<ListFieldView>("Keywords, Tags");
+    keywords.setFocus();
+    QTest::keyClicks(&keywords, "x");
+    QTest::keyClicks(keywords.findChild<TagLineEdit*>(), "y");
+    selectAndSettle({first});
+    EXPECT_EQ(textOf(*second, "keywords"), "xy");
+    EXPECT_EQ(textOf(*first, "keywords"), "");
+    for (const TagLineEdit* const cell : keywords.findChildren<TagLineEdit*>())
+        EXPECT_FALSE(cell->isVisible());
+}
+
+TEST_F(InspectorTest, UndoesTypingInTheFieldAndTheEditAfterIt) {
+    const auto photo = add("a.jpg");
+    selectAndSettle({photo});
+    show({"title", "caption", "label"});
+    auto& title = field("Title, Tags");
+    title.setFocus();
+    QTest::keyClicks(&title, "Ford");
+    QTest::keyClick(&title, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(title.text(), "");
+    EXPECT_FALSE(undo->canUndo()) << "nothing was left behind";
+    QTest::keyClicks(&title, "Bridge");
+    QTest::keyClick(&title, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(textOf(*photo, "title"), "Bridge");
+    QTest::keyClick(&title, Qt::Key_Z, Qt::ControlModifier); // nothing to be taken back here
+    settle();
+    EXPECT_EQ(textOf(*photo, "title"), "");
+    EXPECT_EQ(title.text(), "");
+
+    auto& caption = field<TagTextEdit>("Description, Tags");
+    caption.setFocus();
+    QTest::keyClicks(&caption, "Long");
+    leave(caption);
+    QTest::keyClick(&field("Label, Tags"), Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(caption.toPlainText(), "");
+
+    title.setFocus();
+    QTest::keyClicks(&title, "given up");
+    QTest::keyClick(&title, Qt::Key_Escape);
+    leave(title);
+    EXPECT_EQ(textOf(*photo, "title"), "");
+}
+
+TEST_F(InspectorTest, SaysInPlaceWhatIsNoPositionAndTakesAnyNotation) {
+    const auto photo = add("a.jpg");
+    selectAndSettle({photo});
+    show({"latitude", "dateTimeOriginalComponents"});
+    auto& latitude = field("Latitude, Tags");
+    auto* const row = pane->findChild<FieldRow*>();
+    auto problem = [&] {
+        for (QLabel* const label : row->findChildren<QLabel*>())
+            if (label->isVisible() && label->text().contains("no latitude"))
+                return true;
+        return false;
+    };
+    latitude.setFocus();
+    QTest::keyClicks(&latitude, "north");
+    EXPECT_TRUE(problem());
+    QTest::keyClick(&latitude, Qt::Key_Return);
+    EXPECT_TRUE(problem()) << "it can still be put right";
+    latitude.selectAll();
+    QTest::keyClicks(&latitude, "geo:46.05,14.5");
+    EXPECT_FALSE(problem());
+    leave(latitude);
+    EXPECT_EQ(textOf(*photo, "latitude") + " " + textOf(*photo, "longitude"), "46.05 14.5");
+    EXPECT_EQ(field("Longitude, Tags").text(), "14.5");
+
+    auto& date = field("Original Date, Tags");
+    date.setFocus();
+    QTest::keyClicks(&date, "2014-05-03 17:41:09");
+    leave(date);
+    EXPECT_EQ(date.text(), "2014-05-03");
+    EXPECT_EQ(photo->valueForKey("dateTimeOriginalComponents").components()->minute, 41);
+}
+
+TEST_F(InspectorTest, RenamesMovesAndDeletesRowsOfAList) {
+    const auto photo = add("a.jpg", {{"IPTC:Keywords", KTValue::listOfTexts({"a", "b", "c"})}});
+    selectAndSettle({photo});
+    show({"keywords", "title"});
+    auto& list = field<ListFieldView>("Keywords, Tags");
+    list.setFocus();
+    list.setCurrentIndex(list.model()->index(0, 0));
+    QTest::keyClick(&list, Qt::Key_F2);
+    auto* const cell = list.findChild<TagLineEdit*>();
+    ASSERT_NE(cell, nullptr);
+    cell->selectAll();
+    QTest::keyClicks(cell, "x");
+    QTest::keyClick(cell, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(textOf(*photo, "keywords"), "x b c");
+    list.setCurrentIndex(list.model()->index(0, 0));
+    QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(textOf(*photo, "keywords"), "b x c");
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(textOf(*photo, "keywords"), "x b c");
+
+    const std::unique_ptr<QMimeData> dragged(list.model()->mimeData({list.model()->index(2, 0)}));
+    EXPECT_EQ(list.model()->mimeData({list.model()->index(3, 0)}), nullptr) << "the row for adding";
+    EXPECT_TRUE(list.model()->dropMimeData(dragged.get(), Qt::MoveAction, 0, 0, {}));
+    EXPECT_EQ(textOf(*photo, "keywords"), "c x b");
+    settle();
+    list.setCurrentIndex(list.model()->index(1, 0));
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(textOf(*photo, "keywords"), "c b");
+
+    QTest::keyClicks(&list, "n");
+    leave(*list.findChild<TagLineEdit*>());
+    EXPECT_EQ(textOf(*photo, "keywords"), "c b n");
+    EXPECT_TRUE(field("Title, Tags").hasFocus()) << "Tab goes on down the page";
+}
+
+TEST_F(InspectorTest, CompletesWhatWasTypedBefore) {
+    store.cacheValue("Landsberg am Lech", "City");
+    const auto photo = add("a.jpg");
+    selectAndSettle({photo});
+    show({"cityCreated", "countryCodeCreated"});
+    auto& city = field("City, Tags");
+    city.setFocus();
+    QTest::keyClicks(&city, "land");
+    EXPECT_EQ(city.text(), "landsberg am Lech") << "as typed, and the rest";
+    QTest::keyClick(&city, Qt::Key_Backspace);
+    QTest::keyClicks(&city, "e");
+    leave(city);
+    EXPECT_EQ(textOf(*photo, "cityCreated"), "lande");
+    auto& country = field("Country Code, Tags");
+    country.setFocus();
+    QTest::keyClicks(&country, "switz");
+    leave(country);
+    EXPECT_EQ(textOf(*photo, "countryCodeCreated"), "CH");
+}
+
+TEST_F(InspectorTest, MarksUnsavedFieldsAndRevertsThem) {
+    const auto photo = add("a.jpg", {{"XMP:Label", "blue"}});
+    selectAndSettle({photo});
+    show({"label"});
+    auto* const row = pane->findChild<FieldRow*>();
+    auto isMarked = [&] { return !row->findChild<FieldLabel*>()->accessibleDescription().isEmpty(); };
+    EXPECT_FALSE(isMarked());
+    photo->setValueForKey("label", "red");
+    settle();
+    EXPECT_TRUE(isMarked());
+    QContextMenuEvent request(QContextMenuEvent::Mouse, QPoint(5, 5), row->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(row, &request);
+    auto* const menu = row->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    for (QAction* const action : menu->actions())
+        if (action->text() == "Revert to Saved")
+            action->trigger();
+    menu->close();
+    settle();
+    EXPECT_EQ(textOf(*photo, "label"), "blue");
+    EXPECT_FALSE(isMarked());
+}
+
+TEST_F(InspectorTest, IsCustomizedByNameAndDrag) {
+    selectAndSettle({add("a.jpg")});
+    show();
+    editor.setInCustomizationMode(true);
+    auto* const arrangement = pane->findChild<ArrangementView*>();
+    ASSERT_TRUE(arrangement != nullptr && arrangement->isVisible());
+    auto& tree = field<QTreeView>("Groups and Fields");
+    auto& model = dynamic_cast<GroupTreeModel&>(*tree.model());
+    const QModelIndex tags = model.index(1, 0), geotags = model.index(2, 0);
+    model.setData(tags, "Words", Qt::EditRole);
+    model.setData(model.index(3, 0, tags), "Author", Qt::EditRole);
+
+    std::unique_ptr<QMimeData> dragged(model.mimeData({model.index(4, 0, tags)})); // the event
+    EXPECT_TRUE(model.dropMimeData(dragged.get(), Qt::MoveAction, 1, 0, geotags));
+    tree.setCurrentIndex(model.index(0, 0, model.index(0, 0)));
+    QTest::keyClick(&tree, Qt::Key_Delete); // the file name
+    auto& all = field<QTreeView>("All Fields");
+    field<QLineEdit>("Search fields").setText("rating");
+    const QModelIndex rating = all.model()->index(0, 0, all.model()->index(0, 0));
+    ASSERT_EQ(rating.data().toString(), "Rating");
+    tree.setCurrentIndex(model.index(1, 0));
+    all.setCurrentIndex(rating);
+    QTest::keyClick(&all, Qt::Key_Return);
+    EXPECT_EQ(rating.data().toString(), "Rating (shown)");
+
+    editor.setInCustomizationMode(false);
+    ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));
+    settle();
+    EXPECT_EQ(pane->findChildren<RatingStars*>().size(), 1);
+    EXPECT_TRUE(field("Author, Words").isEnabled());
+    EXPECT_TRUE(field("Event, Geotags").isVisible());
+    EXPECT_THROW(field("File Name, Name & Date"), std::runtime_error);
+    const KTMetadataEditorViewController kept(manager, catalogue, store);
+    EXPECT_EQ(kept.groups()[1]->name() + kept.groups()[1]->fields()[3]->name(), "WordsAuthor");
+}
+
+TEST_F(InspectorTest, SavesAndChoosesTemplates) {
+    selectAndSettle({add("a.jpg")});
+    show({"title"});
+    auto choose = [&](const QString& text) {
+        settle();
+        for (QAction* const action : field<QToolButton>("Templates").menu()->actions())
+            if (action->text() == text)
+                return action->trigger();
+        FAIL() << text.toStdString();
+    };
+    choose("Save current…");
+    auto* const sheet = window.findChild<QDialog*>();
+    ASSERT_NE(sheet, nullptr);
+    auto& name = field<QLineEdit>("Template name");
+    EXPECT_EQ(name.text(), "Untitled template");
+    name.setText("Trip");
+    sheet->accept();
+    EXPECT_TRUE(std::filesystem::exists(folder / "templates" / "Trip.plist"));
+    choose("Default");
+    ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));
+    EXPECT_NO_THROW(field("City, Geotags"));
+    choose("Trip");
+    ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));
+    settle();
+    EXPECT_EQ(pane->findChildren<FieldRow*>().size(), 1);
+    EXPECT_NO_THROW(field("Title, Tags"));
+}
+
+TEST_F(InspectorTest, PastesTheChosenTagsAsOneStep) {
+    const auto from = add("a.jpg", {{"XMP:Label", "blue"}, {"XMP:Title", "Ford"}});
+    const auto photos = photosNamed({"b.jpg", "c.jpg"});
+    int pastes = 0;
+    auto* const sheet = new PasteTagsSheet(
+        KTCopiedTags::fromPhoto(*from), 2,
+        [&](const KTCopiedTags& chosen) {
+            ++pastes;
+            chosen.pasteOnto(manager, std::make_shared<KTPhotoManager::Photos>(photos));
+        },
+        &window);
+    sheet->open();
+    auto* const list = sheet->findChild<QTreeView*>();
+    for (int row = 0; row < list->model()->rowCount(); ++row)
+        if (list->model()->index(row, 0).data().toString() == "Title")
+            list->model()->setData(list->model()->index(row, 0), Qt::Unchecked, Qt::CheckStateRole);
+    sheet->accept();
+    EXPECT_EQ(pastes, 1);
+    EXPECT_EQ(textOf(*photos[0], "label") + textOf(*photos[1], "label"), "blueblue");
+    EXPECT_EQ(textOf(*photos[0], "title"), "");
+    undo->undo();
+    EXPECT_EQ(textOf(*photos[1], "label"), "");
+    EXPECT_FALSE(undo->canUndo());
+}
+
+TEST_F(InspectorTest, NamesEveryControlOnceAndTellsTheEmptySelection) {
+    show();
+    auto shownTexts = [&] {
+        QStringList texts;
+        for (const QLabel* const label : pane->findChildren<QLabel*>())
+            if (label->isVisible())
+                texts << label->text();
+        return texts;
+    };
+    EXPECT_TRUE(shownTexts().contains("No Photos Selected"));
+    const auto photo = add("a.jpg");
+    selectAndSettle({photo});
+    EXPECT_TRUE(shownTexts().contains("1 photo"));
+    std::set<QString> names;
+    for (const QWidget* const widget : pane->findChildren<QWidget*>()) {
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisible())
+            continue;
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
+        EXPECT_TRUE(names.insert(widget->accessibleName()).second) << widget->accessibleName().toStdString();
+        EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->accessibleName().toStdString();
+    }
+    EXPECT_GT(names.size(), 15u);
+}

@@ -5,6 +5,7 @@
 #include "ui/support/UIText.h"
 #include "ui/window/WindowState.h"
 
+#include <QFrame>
 #include <QToolButton>
 #include <QUrl>
 
@@ -30,6 +31,10 @@ InspectorGroup::InspectorGroup(KTMetadataEditorViewController& editor, const KTM
     layout->setSpacing(2);
     layout->addWidget(heading, 0, Qt::AlignLeft);
     layout->addWidget(fields);
+    auto* const rule = new QFrame;
+    rule->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    layout->addSpacing(6);
+    layout->addWidget(rule);
     const QString name = QString::fromStdString(group.name());
     heading->setText(QString(name).replace('&', "&&"));
     heading->setAccessibleName(uiText("Group %1").arg(name));

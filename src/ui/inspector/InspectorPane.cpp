@@ -50,7 +50,8 @@ InspectorPane::~InspectorPane() = default;
 QWidget* InspectorPane::makeHead() {
     auto* const head = new QFrame;
     auto* const line = new QHBoxLayout(head);
-    line->setContentsMargins(10, 3, 6, 3);
+    line->setContentsMargins(8, 3, 4, 3);
+    line->setSpacing(0);
     title = new QLabel;
     QFont bold = title->font();
     bold.setBold(true);
@@ -103,7 +104,7 @@ QWidget* InspectorPane::makeForm() {
     auto* const content = new QWidget;
     groups = new QVBoxLayout(content);
     groups->setContentsMargins(6, 6, 10, 10);
-    groups->setSpacing(10);
+    groups->setSpacing(6);
     groups->addStretch();
     auto* const scroll = new QScrollArea;
     scroll->setAccessibleName(uiText("Metadata fields"));

@@ -97,7 +97,9 @@ void ListFieldView::keyPressEvent(QKeyEvent* event) {
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     const bool isLetter = !event->text().isEmpty() && event->text().front().isPrint() &&
                           !event->modifiers().testFlag(Qt::ControlModifier);
-    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+    if (state() == EditingState) {
+        QListView::keyPressEvent(event); // what the row that is being typed leaves
+    } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
         deleteChosen();
     } else if (isArrow && event->modifiers().testFlag(Qt::AltModifier)) {
         moveChosen(event->key() == Qt::Key_Up ? -1 : 1);
@@ -120,7 +122,10 @@ void ListFieldView::startDrag(Qt::DropActions supportedActions) {
 /// After Return, another one can be added at once.
 void ListFieldView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
     const bool isAdded = static_cast<ListFieldDelegate*>(itemDelegate())->hasAdded();
-    QListView::closeEditor(editor, hint);
+    if (editor != nullptr && editor->isHidden())
+        setState(NoState); // the rows have changed by what was typed
+    else
+        QListView::closeEditor(editor, hint);
     if (hint == QAbstractItemDelegate::RevertModelCache)
         item.cancelEditing();
     if (hint != QAbstractItemDelegate::SubmitModelCache)

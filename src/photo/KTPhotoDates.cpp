@@ -2,6 +2,7 @@
 
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTCallContext.h"
+#include "platform/common/KTDateArithmetic.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTLog.h"
 #include "platform/common/KTText.h"
@@ -14,6 +15,16 @@ namespace {
 
 /// Beyond this many seconds no date with a year of four digits is left.
 constexpr double kLargestShift = 4e11;
+
+/// Whether the date becomes another one. A date that tells no more than the day does not move by an hour, and
+/// a step of undo for that would seem to do nothing.
+bool doesMove(const std::optional<KTDateComponents>& present, const KTDateComponents& saved, double seconds) {
+    if (!present || !present->timeZone || !present->calendar)
+        return false;
+    const auto shifted =
+        KTDateByAddingSeconds(saved, seconds, KTCalendar(*present->timeZone, *present->calendar));
+    return !shifted || !shifted->hasSameReading(*present);
+}
 
 } // namespace
 
@@ -88,7 +99,8 @@ void KTPhoto::setDateShift(KTPhotoDateFamily::Which which, std::optional<double>
     const KTDateComponents* saved = savedValue.components();
     if (!seconds || !(std::abs(*seconds) < kLargestShift) || saved == nullptr)
         return;
-    registerDatesForUndo(which);
+    if (doesMove(readingOf(which).components, *saved, *seconds))
+        registerDatesForUndo(which);
     changeDates(which, {keys.components, keys.shift, keys.instant},
                 [&](auto& family) { return family.storeShifted(*saved, *seconds); });
 }

@@ -107,8 +107,11 @@ TEST_F(PhotoDates, AnInstantIsReadInTheZoneOfTheApplication) {
 }
 
 TEST_F(PhotoDates, APartialDateIsShiftedInItsOwnUnits) {
-    auto photo = open(makePhoto(folder, "a.jpg", {{"XMP:DateTimeOriginal", "2014:05"}}));
+    auto photo = openWithUndo(makePhoto(folder, "a.jpg", {{"XMP:DateTimeOriginal", "2014:05"}}));
     ASSERT_EQ(original(photo), "2014:05");
+    photo->setDateTimeOriginalShift(3600);
+    EXPECT_EQ(original(photo), "2014:05");
+    EXPECT_FALSE(undo->canUndo()) << "undoing it would seem to do nothing";
     photo->setDateTimeOriginalShift(31 * 86400.0);
     EXPECT_EQ(original(photo), "2014:06");
     photo->setDateTimeOriginalComponents(components("2015", KTTimeZone::utc()));

@@ -45,11 +45,26 @@ void Soak::step() {
     for (; choice >= static_cast<std::size_t>(chosen->weight); ++chosen)
         choice -= static_cast<std::size_t>(chosen->weight);
     ++done[chosen->name];
-    lately.push_back(chosen->name);
+    const SoakModel::Records before = model.records;
+    (this->*chosen->run)();
+    lately.push_back(chosen->name + changesSince(before));
     if (lately.size() > kRemembered)
         lately.erase(lately.begin());
-    (this->*chosen->run)();
     checkRecords();
+}
+
+/// What records show otherwise than @p before, for who looks for the cause of a failure.
+std::string Soak::changesSince(const SoakModel::Records& before) const {
+    SoakModel::Records common = before;
+    std::erase_if(common, [&](const auto& record) { return !model.records.contains(record.first); });
+    SoakModel::Records changed;
+    SoakModel::addChanges(changed, common, model.records);
+    std::string text;
+    for (const auto& [file, values] : changed)
+        for (const auto& [key, value] : values)
+            text += "; " + file.filename().string() + " " + key + " “" + value.description() + "” → “" +
+                    model.records.at(file).at(key).description() + "”";
+    return text;
 }
 
 void Soak::require(bool isRight, const std::string& text) {
@@ -84,9 +99,10 @@ void Soak::checkRecords() {
             require(SoakModel::isSame(value, expected.at(key)), photo->filename() + " shows " + key + " “" +
                                                                     value.description() + "” instead of “" +
                                                                     expected.at(key).description() + "”");
-        const bool mustBeSaved = !SoakModel::isSame(expected, model.disk.at(photo->fileURL()));
-        require(photo->hasUnsavedChanges() == mustBeSaved,
-                photo->filename() + (mustBeSaved ? " does not say" : " says") + " that it must be saved");
+        const bool mustBeSaved = model.mustBeSaved(photo->fileURL());
+        if (photo->hasUnsavedChanges() != mustBeSaved)
+            require(false, photo->filename() + (mustBeSaved ? " does not say" : " says") +
+                               " that it must be saved; pending: " + pendingOf(*photo));
     }
     checkStamps({});
 }
@@ -109,23 +125,89 @@ SoakModel::Values Soak::readAnew(const Path& file) {
     return photo ? SoakModel::valuesOf(*photo) : SoakModel::Values();
 }
 
+/// The keys of the tags that are still to be written, and the last line of the log.
+std::string Soak::pendingOf(const KTPhoto& photo) {
+    std::string text;
+    for (const auto kind : {KTMetadataSource::Image, KTMetadataSource::Sidecar})
+        for (const auto& [key, value] : photo.source(kind).changes)
+            text += key.text() + (kind == KTMetadataSource::Image ? " " : " (sidecar) ");
+    const auto last = photo.lastPhotoOperation();
+    return last ? text + "; " + last->resultDescription() : text;
+}
+
+/// Whether the image says @p value in any tag. The first sidecar is made of all tags of the image, each under
+/// its name in XMP: a field that reads other groups of the image shows nothing before and something
+/// afterwards, for instance the date of a raw file that knows it only in its maker's notes.
+bool Soak::isInImage(const Path& file, const KTValue& value) {
+    KTMetadataSource image(KTMetadataSource::Image);
+    image.read(*reader, file);
+    return std::ranges::any_of(*image.saved, [&](const auto& tag) {
+        const std::string text = tag.value.description(), wanted = value.description();
+        const auto number = KTDecimal::fromText(text);
+        return text == wanted || (value.components() && text.starts_with(wanted)) ||
+               (number && value.number() && SoakModel::isSame(*number, value));
+    });
+}
+
+/// What the image alone says, whatever its sidecar does.
+SoakModel::Values Soak::readImageAlone(const Path& file) {
+    KTMetadataSource image(KTMetadataSource::Image);
+    image.read(*reader, file);
+    SoakModel::Values values;
+    for (const std::string& key : SoakModel::keys())
+        values[key] = image.valueForField(
+            *KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key));
+    return values;
+}
+
+/// Where a save writes both image and sidecar, it may reach the sidecar alone: the image refuses the edit, or
+/// the edit came between the two. Then the values are there for a reading, and yet must be saved.
+void Soak::noteImageBehind(const Photo& photo, const SoakModel::Values& disk) {
+    const Path& file = photo->fileURL();
+    model.behind.erase(file);
+    if (!photo->writingToImageFile() || !photo->writingToXMPSidecar())
+        return;
+    const SoakModel::Values alone = readImageAlone(file), shows = SoakModel::valuesOf(*photo);
+    for (const auto& [key, value] : alone) {
+        if (SoakModel::isSame(value, shows.at(key)))
+            continue;
+        const bool wasEdited = std::ranges::any_of(seen[file], [&](const SoakModel::Values& values) {
+            return !SoakModel::isSame(values.at(key), disk.at(key));
+        });
+        if (photo->hasUnsavedChanges())
+            model.behind[file].emplace(key, value);
+        else
+            require(!wasEdited, photo->filename() + " counts as saved, but its image holds as " + key + " “" +
+                                    value.description() + "” instead of “" + shows.at(key).description() +
+                                    "”");
+    }
+}
+
 /// What was saved is in the files, and what is in the files was in the record at some time of the save.
 void Soak::checkSaved(const Photos& saved, const SoakModel::Records& before) {
     std::set<Path> mayChange;
     for (const Photo& photo : saved) {
         const Path& file = photo->fileURL();
         mayChange.insert(file);
+        const bool isFirstSidecar = !stamps.at(file).back();
         const SoakModel::Values now = readAnew(file), shows = SoakModel::valuesOf(*photo);
         for (const auto& [key, value] : now) {
             bool isKnown = SoakModel::isSame(value, before.at(file).at(key));
-            for (const SoakModel::Values& values : seen[file])
+            bool wasNothing = true;
+            for (const SoakModel::Values& values : seen[file]) {
                 isKnown = isKnown || SoakModel::isSame(value, values.at(key));
+                wasNothing = wasNothing && SoakModel::isSame({}, values.at(key));
+            }
+            isKnown = isKnown || (isFirstSidecar && wasNothing && isInImage(file, value));
             require(isKnown, photo->filename() + " holds as " + key + " “" + value.description() +
-                                 "”, which its record never showed");
+                                 "”, which its record never showed, but “" +
+                                 before.at(file).at(key).description() + "”" +
+                                 (isFirstSidecar ? " before its first sidecar" : ""));
             require(photo->hasUnsavedChanges() || SoakModel::isSame(value, shows.at(key)),
                     photo->filename() + " counts as saved, but holds as " + key + " “" + value.description() +
                         "” instead of “" + shows.at(key).description() + "”");
         }
+        noteImageBehind(photo, before.at(file));
         model.disk[file] = now;
     }
     checkStamps(mayChange);

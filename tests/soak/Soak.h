@@ -56,7 +56,11 @@ private:
     void checkRecords();
     void checkStamps(const std::set<Path>& mayChange);
     void checkSaved(const Photos& saved, const SoakModel::Records& before);
-    void checkFile(const Path& file);
+    std::string changesSince(const SoakModel::Records& before) const;
+    static std::string pendingOf(const KTPhoto& photo);
+    bool isInImage(const Path& file, const KTValue& value);
+    SoakModel::Values readImageAlone(const Path& file);
+    void noteImageBehind(const Photo& photo, const SoakModel::Values& disk);
     SoakModel::Values readAnew(const Path& file);
     std::vector<std::optional<KTFileStamp>> stampsOf(const Path& file) const;
 

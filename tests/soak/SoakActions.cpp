@@ -124,7 +124,7 @@ void Soak::noteSeen() {
 /// Sometimes with edits meanwhile, sometimes stopped.
 void Soak::save() {
     const Photos chosen = number(2) == 0 ? *manager.unsavedPhotos() : somePhotos();
-    const SoakModel::Records disk = model.disk, before = shown();
+    const SoakModel::Records disk = model.disk;
     seen.clear();
     noteSeen();
     bool didSave = false;
@@ -133,9 +133,12 @@ void Soak::save() {
     const std::uint64_t stop = number(6) == 0 ? number(1 + chosen.size()) : UINT64_MAX;
     // How often the loop turns is chance; the steps that follow must not depend on it.
     const std::mt19937_64 afterwards = random;
+    SoakModel::Records edited;
     waitUntil([&] {
         if (isEdited && !didSave && number(10) == 0 && !chosen.empty()) {
+            const SoakModel::Records unedited = shown();
             editOneProperty(chosen[number(chosen.size())]);
+            SoakModel::addChanges(edited, unedited, shown());
             noteSeen();
         }
         if (batches.batchProgressValue() >= stop)
@@ -143,7 +146,8 @@ void Soak::save() {
         return didSave;
     });
     random = afterwards;
-    model.note(before, shown()); // edits that meet a batch are one step
+    // Edits that meet a batch are one step. What a record shows because its file holds it is none.
+    model.noteStep(std::move(edited), shown());
     checkSaved(chosen, disk);
 }
 

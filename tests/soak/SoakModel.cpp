@@ -40,12 +40,20 @@ bool SoakModel::isSame(const Values& left, const Values& right) {
         left, [&](const auto& entry) { return isSame(entry.second, right.at(entry.first)); });
 }
 
-void SoakModel::note(const Records& before, const Records& after) {
-    Records step;
+void SoakModel::addChanges(Records& step, const Records& before, const Records& after) {
     for (const auto& [file, values] : before)
         for (const auto& [key, value] : values)
             if (!isSame(value, after.at(file).at(key)))
-                step[file][key] = value;
+                step[file].emplace(key, value); // what stood there first is what comes back
+}
+
+void SoakModel::note(const Records& before, const Records& after) {
+    Records step;
+    addChanges(step, before, after);
+    noteStep(std::move(step), after);
+}
+
+void SoakModel::noteStep(Records step, const Records& after) {
     for (const auto& [file, values] : after)
         records[file] = values;
     if (step.empty())
@@ -68,11 +76,18 @@ bool SoakModel::move(Steps& from, Steps& to) {
 
 void SoakModel::forget(const Path& file) {
     records.erase(file);
+    behind.erase(file); // whoever loads it again takes what a reading brings as saved
     for (Steps* steps : {&undoSteps, &redoSteps}) {
         for (Records& step : *steps)
             step.erase(file);
         std::erase_if(*steps, [](const Records& step) { return step.empty(); });
     }
+}
+
+bool SoakModel::mustBeSaved(const Path& file) const {
+    const Values& shown = records.at(file);
+    const auto image = behind.find(file);
+    return !isSame(shown, disk.at(file)) || (image != behind.end() && !isSame(image->second, shown));
 }
 
 std::optional<std::pair<double, double>> SoakModel::positionAt(std::int64_t milliseconds) const {

@@ -25,10 +25,17 @@ public:
     /// What was done, as one step to undo: each record's values before. Those that are the same now are no
     /// part of it.
     void note(const Records& before, const Records& after);
+    /// The same of several edits: collects what each changed in a step, and notes it at the end.
+    static void addChanges(Records& step, const Records& before, const Records& after);
+    void noteStep(Records step, const Records& after);
     /// Takes back the last step, or does it again; false without one.
     bool undo() { return move(undoSteps, redoSteps); }
     bool redo() { return move(redoSteps, undoSteps); }
     void forget(const Path& file);
+
+    /// Whether a loaded record shows other than its file holds, or than its image does that a save left
+    /// behind.
+    bool mustBeSaved(const Path& file) const;
 
     /// The position that a photo of that instant gets under the default criteria: of the nearer track point,
     /// less than 300 s away; of two that are as near the earlier. Nothing where there is none.
@@ -36,6 +43,7 @@ public:
 
     Records records;                                        ///< of the loaded photos
     Records disk;                                           ///< of every file that was ever looked at
+    Records behind;                                         ///< of images whose sidecar alone was written
     std::map<std::int64_t, std::vector<TrackPoint>> tracks; ///< by identifier
 
 private:

@@ -56,7 +56,30 @@ void KTPhoto::stampWithDate(std::string_view key, const KTValue& date) {
 bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder, const KTPhotoSaving& saving) {
     if (!unsavedFile() && !unsavedSidecar())
         return true;
-    const KTValue metadataDate = valueForKey("metadataDate"), modifyDate = valueForKey("modifyDate");
+    // A date that nobody had edited is put back as it was shown. As an edit it might count as another one:
+    // what has no zone reads otherwise since the assumed zone changed.
+    const auto wayBack = [this](std::string_view key) -> std::function<void()> {
+        const KTValue before = valueForKey(key);
+        const KTMetadataField* field =
+            KTMetadataFieldManager::sharedMetadataFieldManager().metadataFieldForKey(key);
+        std::lock_guard guard(mutex);
+        if (std::ranges::any_of(sources,
+                                [&](const auto& each) { return hasPendingKeys(*field, each.changes); }))
+            return [=, this] { stampWithDate(key, before); };
+        return [=, this] {
+            KTPerformOnMainThreadAndWait([&] {
+                changeRecords([&] {
+                    std::lock_guard held(mutex);
+                    for (KTMetadataSource& each : sources)
+                        for (const KTTagKey& stamped : recordedEdits[field].keys)
+                            each.changes.remove(stamped);
+                });
+                showAsRead(*field, before);
+                checkForUnsavedChanges();
+            });
+        };
+    };
+    const auto unstampMetadata = wayBack("metadataDate"), unstampModification = wayBack("modifyDate");
     const auto fields = fieldsToWrite();
     stampWithDate("metadataDate", KTInstantNow());
     // Counts from the date that will be in the file.
@@ -72,8 +95,8 @@ bool KTPhoto::saveFiles(const std::optional<fs::path>& backupFolder, const KTPho
         followFiles(fields);
     } else {
         // Nothing was stamped on disk, so nothing may look stamped.
-        stampWithDate("metadataDate", metadataDate);
-        stampWithDate("modifyDate", modifyDate);
+        unstampMetadata();
+        unstampModification();
         dates[KTPhotoDateFamily::Original].restoreShift(original);
     }
     return std::ranges::find(results, WriteResult::Stopped) == results.end();

@@ -1,5 +1,6 @@
 #include "tests/photo/PhotoFixture.h"
 
+#include "metadata/KTMetadataFieldManager.h"
 #include "photo/KTLinkablePoint.h"
 #include "photo/KTWrittenValues.h"
 #include "platform/desktop/KTFileDates.h"
@@ -166,6 +167,23 @@ TEST_F(PhotoSaving, AFailedSaveLeavesTheFileAndTheChanges) {
     EXPECT_TRUE(photo->hasUnsavedChanges());
     EXPECT_EQ(contentOf(file), before.substr(0, 40));
     EXPECT_TRUE(leftNothingBehind(folder, 1));
+}
+
+TEST_F(PhotoSaving, AfterAFailedSaveInAnotherZoneThePhotoGoesBackToUnedited) {
+    const auto file = makePhoto(folder, "a.jpg", {{"EXIF:ModifyDate", "2010:03:20 12:05:03"}});
+    auto photo = openWithUndo(file);
+    const KTValue shown = photo->valueForKey("modifyDate");
+    // What has no zone reads otherwise from now on.
+    KTMetadataFieldManager::sharedMetadataFieldManager().setAssumedTimeZone(KTTimeZone::fixed(5 * 3600));
+    photo->setValueForKey("title", "Gipfel");
+    std::filesystem::resize_file(file, 40);
+    photo->saveWithBackupToFolder(std::nullopt);
+    ASSERT_FALSE(lastWrite(photo).operationDidSucceed);
+    EXPECT_TRUE(photo->hasUnsavedChanges());
+    EXPECT_EQ(photo->valueForKey("modifyDate"), shown);
+    ASSERT_TRUE(undo->undo());
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    EXPECT_TRUE(imageChanges(photo).empty());
 }
 
 TEST_F(PhotoSaving, WhenOnlyTheSidecarFailsTheImageCountsAsWrittenAndTheSidecarStaysPending) {

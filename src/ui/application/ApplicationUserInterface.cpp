@@ -1,9 +1,9 @@
 #include "ui/application/ApplicationUserInterface.h"
 
 #include "geotagging/KTAppTrackPickerController.h"
+#include "ui/datetools/DateToolsWindow.h"
 #include "ui/window/MainWindow.h"
 #include "ui/windows/AboutBox.h"
-#include "ui/windows/DateToolsWindow.h"
 #include "ui/windows/MediaBrowserWindow.h"
 #include "ui/windows/OperationLogWindow.h"
 #include "ui/windows/PreferencesWindow.h"
@@ -49,7 +49,7 @@ ApplicationUserInterface::makeTrackPickerWindow(KTAppTrackPickerController& cont
 
 WaymarkUserInterface::Window
 ApplicationUserInterface::makeDateToolsWindow(KTDateToolsWindowController& controller) {
-    return std::make_unique<DateToolsWindow>(controller);
+    return std::make_unique<DateToolsWindow>(controller, *thumbnails);
 }
 
 WaymarkUserInterface::Window

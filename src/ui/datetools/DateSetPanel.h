@@ -1,26 +1,29 @@
 #pragma once
 #include "datetools/KTDateSetViewController.h"
+#include "ui/datetools/DateToolPanel.h"
 
-#include <QWidget>
-
+class InstantEdit;
 class QComboBox;
-class QDateTimeEdit;
-class QLabel;
+class QPushButton;
 
 /// Gives the selected photos one date, at a precision of the user's choice.
-class DateSetPanel : public QWidget {
+class DateSetPanel : public DateToolPanel {
     Q_OBJECT
 public:
     /// @p setController must outlive the panel.
     explicit DateSetPanel(KTDateSetViewController& setController, QWidget* parent = nullptr);
 
+    void apply() override { controller.setDateTimeOriginalApply(); }
+    QString applyTip() const override;
+
 private:
+    void takeDateOfPhoto();
     void update();
-    void enter();
 
     KTDateSetViewController& controller;
-    QDateTimeEdit* picker;
     QComboBox* precision;
-    QLabel* warning;
+    InstantEdit* picker;
+    QPushButton* ofPhoto;
+    QLabel *zone, *warning;
     KTObservable::Observation observation;
 };

@@ -14,6 +14,7 @@
 #include "datetools/KTDateToolsWindowController.h"
 #include "export/KTPhotoExportPluginMenuController.h"
 #include "export/KTPluginManager.h"
+#include "export/slideshow/KTSlideShowExporterClass.h"
 #include "geotagging/KTAppTrackPickerController.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
@@ -44,7 +45,10 @@ void WaymarkAppController::setupModel() {
         std::make_shared<KTSerialQueue>("com.Brightfold.UndoQueue", KTSerialQueue::Kind::Announcing);
     undo = std::make_shared<KTUndoManager>(queueOfUndo);
     exportPlugins = KTPhotoExportPluginManager::make();
-    plugins = std::make_unique<KTPluginManager>(exportPlugins);
+    KTPluginManager::BuiltInClasses partsOfTheProgram;
+    if (KTSlideShowScreen* const slideShows = userInterface.slideShowScreen())
+        partsOfTheProgram.push_back(std::make_shared<KTSlideShowExporterClass>(*slideShows));
+    plugins = std::make_unique<KTPluginManager>(exportPlugins, std::move(partsOfTheProgram));
     photoManager().setUndoManager(undo, queueOfUndo);
     photoManager().setCreatesSidecarsOfRawFiles(true);
 }

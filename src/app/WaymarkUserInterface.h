@@ -9,6 +9,7 @@ class MediaBrowserWindowController;
 class KTAppTrackPickerController;
 class KTDateToolsWindowController;
 class KTPhotoOperationWindowController;
+class KTSlideShowScreen;
 class KTTagDetailsWindowController;
 class WaymarkAppController;
 class WaymarkWindow;
@@ -44,6 +45,9 @@ public:
     virtual Window makeMediaBrowserWindow(MediaBrowserWindowController& /*controller*/) { return nullptr; }
     /// The user's folder of pictures.
     virtual std::filesystem::path picturesFolder() const { return {}; }
+
+    /// Where slide shows are shown; null where there are none: they are not offered then.
+    virtual KTSlideShowScreen* slideShowScreen() { return nullptr; }
 
     /// Shows name, version and licences.
     virtual void showAboutBox() = 0;

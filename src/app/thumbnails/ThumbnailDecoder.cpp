@@ -64,7 +64,10 @@ DecodedPicture decodeWithReader(QFile& file, int edge) {
 } // namespace
 
 DecodedPicture decodeThumbnail(const std::filesystem::path& path, ThumbnailSize size) {
-    const int edge = edgeOf(size);
+    return decodePicture(path, edgeOf(size));
+}
+
+DecodedPicture decodePicture(const std::filesystem::path& path, int edge) {
     if (isRawFileName(path)) {
         DecodedPicture result = previewOfRawFile(path, edge);
         result.image = fitted(result.image, edge);

@@ -1,6 +1,7 @@
 #pragma once
 #include "app/WaymarkUserInterface.h"
 #include "app/thumbnails/KTThumbnailService.h"
+#include "ui/slideshow/SlideShowScreen.h"
 
 /// The windows of the application.
 class ApplicationUserInterface : public WaymarkUserInterface {
@@ -16,6 +17,7 @@ public:
     Window makeDateToolsWindow(KTDateToolsWindowController& controller) override;
     Window makeMediaBrowserWindow(MediaBrowserWindowController& controller) override;
     std::filesystem::path picturesFolder() const override;
+    KTSlideShowScreen* slideShowScreen() override { return &slideShows; }
     void showAboutBox() override;
     KTPresenter& presenter() override { return *alone; }
     std::string clipboardText() override;
@@ -26,4 +28,5 @@ public:
 private:
     std::unique_ptr<KTPresenter> alone; // asks where there is no window
     std::unique_ptr<KTThumbnailService> thumbnails;
+    SlideShowScreen slideShows;
 };

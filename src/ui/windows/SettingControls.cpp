@@ -70,6 +70,11 @@ constexpr Control kControls[] = {
     {"mapTilesSize", "Tile size:", "In pixels"},
     {"mapTilesAttribution", "Attribution:", "What the server wants to be shown on the map"},
     {"mapTilesCacheMegabytes", "Cache:", "Megabytes on the disk at most"},
+
+    {"slideshowPlugin.autoAdvanceInterval", "Seconds for a photo:", "With 0, photos change only when you say so"},
+    {"slideshowPlugin.transitionStyle", "Transition:", "How a photo gives way to the next one", "None|Fade|Move In|Push|Reveal|Copy Machine|Disintegrate|Dissolve|Flash|Mod|Page Curl|Ripple|Swipe"},
+    {"slideshowPlugin.autoZoomPhotoStyle", "Map:", "What it does when another photo is shown", "Stay|Move to the photo|Move and zoom to the photo"},
+    {"slideshowPlugin.shouldShowNearbyTracks", "Show the tracks near the photos", "On the map"},
 };
 // clang-format on
 

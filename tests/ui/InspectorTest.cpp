@@ -29,6 +29,7 @@ protected:
     void SetUp() override {
         EditorFixture::SetUp();
         KTUserDefaults::standardUserDefaults().setValue("defaultAssumedTimeZoneOffset", 0);
+        editor.resetToDefaultGroups(); // it was made with the settings of the test before
     }
 
     void show(std::initializer_list<const char*> keys) {
@@ -310,6 +311,42 @@ TEST_F(InspectorTest, MarksUnsavedFieldsAndRevertsThem) {
     settle();
     EXPECT_EQ(textOf(*photo, "label"), "blue");
     EXPECT_FALSE(isMarked());
+}
+
+TEST_F(InspectorTest, IsCustomizedByNameAndDrag) {
+    selectAndSettle({add("a.jpg")});
+    show();
+    editor.setInCustomizationMode(true);
+    auto* const arrangement = pane->findChild<ArrangementView*>();
+    ASSERT_TRUE(arrangement != nullptr && arrangement->isVisible());
+    auto& tree = field<QTreeView>("Groups and Fields");
+    auto& model = dynamic_cast<GroupTreeModel&>(*tree.model());
+    const QModelIndex tags = model.index(1, 0), geotags = model.index(2, 0);
+    model.setData(tags, "Words", Qt::EditRole);
+    model.setData(model.index(3, 0, tags), "Author", Qt::EditRole);
+
+    std::unique_ptr<QMimeData> dragged(model.mimeData({model.index(4, 0, tags)})); // the event
+    EXPECT_TRUE(model.dropMimeData(dragged.get(), Qt::MoveAction, 1, 0, geotags));
+    tree.setCurrentIndex(model.index(0, 0, model.index(0, 0)));
+    QTest::keyClick(&tree, Qt::Key_Delete); // the file name
+    auto& all = field<QTreeView>("All Fields");
+    field<QLineEdit>("Search fields").setText("rating");
+    const QModelIndex rating = all.model()->index(0, 0, all.model()->index(0, 0));
+    ASSERT_EQ(rating.data().toString(), "Rating");
+    tree.setCurrentIndex(model.index(1, 0));
+    all.setCurrentIndex(rating);
+    QTest::keyClick(&all, Qt::Key_Return);
+    EXPECT_EQ(rating.data().toString(), "Rating (shown)");
+
+    editor.setInCustomizationMode(false);
+    ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));
+    settle();
+    EXPECT_EQ(pane->findChildren<RatingStars*>().size(), 1);
+    EXPECT_TRUE(field("Author, Words").isEnabled());
+    EXPECT_TRUE(field("Event, Geotags").isVisible());
+    EXPECT_THROW(field("File Name, Name & Date"), std::runtime_error);
+    const KTMetadataEditorViewController kept(manager, catalogue, store);
+    EXPECT_EQ(kept.groups()[1]->name() + kept.groups()[1]->fields()[3]->name(), "WordsAuthor");
 }
 
 TEST_F(InspectorTest, SavesAndChoosesTemplates) {

@@ -64,13 +64,20 @@ void KTFieldEdit::commit() {
     for (const auto& photo : *all)
         loaded.insert(photo.get());
     KTPhotoManager::Photos edited;
-    for (const auto& photo : *photos)
-        if (loaded.contains(photo.get()) && hasOtherValues(*photo, typed(*photo)))
-            edited.push_back(photo);
+    std::vector<KTValue::Dictionary> valuesOfEdited;
+    for (const auto& photo : *photos) {
+        if (!loaded.contains(photo.get()))
+            continue;
+        KTValue::Dictionary newValues = typed(*photo);
+        if (!hasOtherValues(*photo, newValues))
+            continue;
+        edited.push_back(photo);
+        valuesOfEdited.push_back(std::move(newValues));
+    }
     if (edited.empty())
         return;
-    KTEditPhotos(manager, edited, undoName, [&](KTPhoto& photo) {
-        const KTValue::Dictionary newValues = typed(photo);
+    KTEditPhotos(manager, edited, undoName, [&, next = std::size_t(0)](KTPhoto& photo) mutable {
+        const KTValue::Dictionary& newValues = valuesOfEdited[next++];
         if (newValues.size() > 1)
             photo.setValuesForKeysWithDictionary(newValues, undoName);
         else

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int kWidth = 108, kSignEdge = 11, kGutter = 13;
+constexpr int kWidth = 100, kSignEdge = 11, kGutter = 13;
 
 } // namespace
 

@@ -23,7 +23,7 @@ InspectorPane::InspectorPane(KTMetadataEditorViewController& editorController,
       setCustomizing(std::move(customize)), pages(new QStackedWidget), filling(new QTimer(this)),
       updates(new RowUpdates(this)) {
     setAccessibleName(uiText("Metadata"));
-    setMinimumWidth(250);
+    setMinimumWidth(260);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -103,7 +103,7 @@ QWidget* InspectorPane::makeEmptyPage() {
 QWidget* InspectorPane::makeForm() {
     auto* const content = new QWidget;
     groups = new QVBoxLayout(content);
-    groups->setContentsMargins(6, 6, 10, 10);
+    groups->setContentsMargins(4, 6, 8, 10);
     groups->setSpacing(6);
     groups->addStretch();
     auto* const scroll = new QScrollArea;

@@ -6,15 +6,22 @@
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
+#include <QScreen>
+
+namespace {
+
+constexpr int kFrames = 48; // of two lines, with the sign for the calendar
+
+} // namespace
 
 PairFieldEditor::PairFieldEditor(Item& edited)
-    : FieldEditor(edited), first(new TagLineEdit), second(new TagLineEdit) {
+    : FieldEditor(edited), lines(new QBoxLayout(QBoxLayout::LeftToRight, this)), first(new TagLineEdit),
+      second(new TagLineEdit) {
     const bool isDate = item.kind() == KTMetadataFieldItemKind::DateTime;
-    auto* const layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->setSpacing(6);
-    layout->addWidget(first, isDate ? 3 : 1);
-    layout->addWidget(second, isDate ? 2 : 1);
+    lines->setContentsMargins({});
+    lines->setSpacing(4);
+    lines->addWidget(first, isDate ? 3 : 1);
+    lines->addWidget(second, isDate ? 2 : 1);
     connectLine(*first, item, Item::First);
     connectLine(*second, item, Item::Second);
     if (!isDate)
@@ -38,6 +45,12 @@ void PairFieldEditor::showValue() {
     showInLine(*second, item, Item::Second);
 }
 
+void PairFieldEditor::resizeEvent(QResizeEvent* event) {
+    FieldEditor::resizeEvent(event);
+    const int needed = fontMetrics().horizontalAdvance("2014-05-03 17:41:09") + kFrames;
+    lines->setDirection(width() < needed ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
 void PairFieldEditor::pickDate() {
     auto* const picker = new QCalendarWidget(this);
     picker->setWindowFlags(Qt::Popup);
@@ -53,7 +66,10 @@ void PairFieldEditor::pickDate() {
     };
     connect(picker, &QCalendarWidget::clicked, this, choose);
     connect(picker, &QCalendarWidget::activated, this, choose);
-    picker->move(first->mapToGlobal(QPoint(0, first->height())));
+    const QSize size = picker->sizeHint();
+    const QRect free = screen()->availableGeometry();
+    const QPoint below = mapToGlobal(QPoint(width() - size.width(), first->height()));
+    picker->move(std::max(free.left(), below.x()), std::min(free.bottom() - size.height(), below.y()));
     picker->show();
     picker->setFocus();
 }

@@ -3,7 +3,8 @@
 
 class TagLineEdit;
 
-/// Two lines side by side: latitude and longitude, or date and time. A date can be picked from a calendar.
+/// Two lines, side by side where there is room: latitude and longitude, or date and time. A date can be
+/// picked from a calendar.
 class PairFieldEditor : public FieldEditor {
     Q_OBJECT
 public:
@@ -13,9 +14,13 @@ public:
     QList<QWidget*> fields() const override;
     void setNames(const QString& name, const QString& secondName, const QString& help) override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void pickDate();
 
+    class QBoxLayout* lines;
     TagLineEdit *first, *second;
     QAction* calendar = nullptr;
 };

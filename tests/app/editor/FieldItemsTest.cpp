@@ -310,3 +310,16 @@ TEST_F(FieldItems, TypedTextsAreOfferedAgain) {
     EXPECT_EQ(event->firstValueMatchingPrefix("PA"), "PAris");
     EXPECT_EQ(item<KTMetadataFieldComboBoxArrayViewItem>("event")->comboBoxArray(), event->comboBoxArray());
 }
+
+TEST_F(FieldItems, DoesSoonWhatIsEndedByAnAnnouncement) {
+    const auto photo = add("a.jpg"), other = add("b.jpg");
+    select({photo});
+    const auto title = item("title");
+    title->setText("Ford");
+    auto observation = other->observe([&](const KTChange&) { editor.commitEditing(); });
+    other->setValueForKey("label", "red");
+    EXPECT_FALSE(title->isEditing());
+    turn();
+    EXPECT_EQ(textOf(*photo, "title"), "Ford");
+    EXPECT_EQ(undo->undoActionName(), "Edit Title");
+}

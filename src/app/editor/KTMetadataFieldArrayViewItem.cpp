@@ -170,9 +170,11 @@ void KTMetadataFieldArrayViewItem::setValue(const KTValue& value) {
     once.commit();
 }
 
+/// What nobody edits, such as the name of the file, need not stand in any tag.
 bool KTMetadataFieldArrayViewItem::hasUnsavedEdit() const {
-    return std::ranges::any_of(keys(),
-                               [this](const std::string& key) { return selection.hasUnsavedEdit(key); });
+    return !field->readonly() && std::ranges::any_of(keys(), [this](const std::string& key) {
+        return selection.hasUnsavedEdit(key);
+    });
 }
 
 void KTMetadataFieldArrayViewItem::revertToSaved() {

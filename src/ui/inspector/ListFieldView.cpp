@@ -142,6 +142,13 @@ void ListFieldView::focusInEvent(QFocusEvent* event) {
         goToAddRow(false);
 }
 
+/// The row for adding is chosen for the keyboard alone.
+void ListFieldView::focusOutEvent(QFocusEvent* event) {
+    QListView::focusOutEvent(event);
+    if (currentIndex().row() == rows->addRow())
+        clearSelection();
+}
+
 /// The row's menu comes up.
 void ListFieldView::contextMenuEvent(QContextMenuEvent* event) {
     event->ignore();

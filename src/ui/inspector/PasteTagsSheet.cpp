@@ -45,15 +45,18 @@ PasteTagsSheet::PasteTagsSheet(KTCopiedTags copied, std::size_t photoCount,
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     paste = buttons->addButton(uiText("Paste Tags"), QDialogButtonBox::AcceptRole);
     paste->setDefault(true);
+    auto* const lower = new QHBoxLayout;
     for (const bool isAll : {true, false}) {
-        auto* const button = buttons->addButton(isAll ? uiText("Check All") : uiText("Check None"),
-                                                QDialogButtonBox::ActionRole);
+        auto* const button = new QPushButton(isAll ? uiText("Check All") : uiText("Check None"));
+        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, isAll] { chooseAll(isAll); });
+        lower->addWidget(button);
     }
+    lower->addWidget(buttons, 1);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(list, 1);
-    layout->addWidget(buttons);
+    layout->addLayout(lower);
     connect(rows, &QStandardItemModel::itemChanged, this, [this](const QStandardItem* item) {
         if (item->column() == 0)
             choose(item->row(), item->checkState() == Qt::Checked);

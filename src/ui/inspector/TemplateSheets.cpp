@@ -70,6 +70,7 @@ QDialog* TemplateSheets::makeTemplatesSheet() {
     auto* const remove = buttons->addButton(uiText("Remove Template"), QDialogButtonBox::ActionRole);
     auto* const done = buttons->addButton(uiText("Done"), QDialogButtonBox::AcceptRole);
     remove->setToolTip(uiText("Removes the chosen template from the list; its file is deleted by “Done”"));
+    remove->setAutoDefault(false);
     done->setDefault(true);
     auto* const layout = new QVBoxLayout(sheet);
     layout->addWidget(label);

@@ -4,8 +4,12 @@
 // property one by one.
 //
 // EditingBenchmark PHOTO: the photos are copies, in memory, of the record of that one.
+//
+// EditingBenchmark PHOTO PHOTO…: the photos are 2,000 copies of these files, which are edited, put back by
+// undo, edited by redo and saved, ten times over; prints times and the memory in use after each round.
 #include "app/editor/KTMetadataEditorViewController.h"
 #include "app/editor/KTMetadataFieldMultipleValueArrayViewItem.h"
+#include "collection/KTBatchOperationController.h"
 #include "datetools/KTDateShiftViewController.h"
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTTimeZoneManager.h"
@@ -14,11 +18,14 @@
 #include "platform/undo/KTUndoManager.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 #include <cstdio>
+#include <fstream>
 
 namespace {
 
 constexpr std::size_t kEdited = 2'000, kSelected = 20'000;
+constexpr int kRounds = 10;
 
 double secondsOf(const std::function<void()>& work) {
     const auto start = std::chrono::steady_clock::now();
@@ -31,8 +38,11 @@ void print(const char* what, double seconds, double reference) {
 }
 
 struct Bench {
-    Bench(const KTPhoto& model, std::size_t count) {
+    Bench() {
         manager.setUndoManager(undo, queue);
+        manager.setBatchOperationController(&batches);
+    }
+    Bench(const KTPhoto& model, std::size_t count) : Bench() {
         for (std::size_t i = 0; i < count; ++i) {
             manager.insertObject(model.copyWithZone(), i);
             loose.push_back(model.copyWithZone());
@@ -53,6 +63,7 @@ struct Bench {
         std::make_shared<KTSerialQueue>("com.Brightfold.UndoQueue", KTSerialQueue::Kind::Announcing);
     std::shared_ptr<KTUndoManager> undo = std::make_shared<KTUndoManager>(queue);
     KTMetadataFieldManager& catalogue = KTMetadataFieldManager::sharedMetadataFieldManager();
+    KTBatchOperationController batches{undo};
     KTPhotoManager manager;
     std::vector<std::shared_ptr<KTPhoto>> loose; // in no collection
     KTComboBoxStoreController store{"/dev/null/none"};
@@ -117,14 +128,90 @@ void select(const KTPhoto& model) {
     print("finding what they share", reading, reference);
 }
 
+double megabytesInUse() {
+    std::ifstream statm("/proc/self/statm");
+    std::size_t all = 0, resident = 0;
+    statm >> all >> resident;
+    return double(resident) * 4096 / 1e6;
+}
+
+void setCaptionAndKeywords(Bench& bench, const std::string& round) {
+    const auto caption = bench.item("caption");
+    caption->setText("A caption " + round);
+    caption->endEditing();
+    const auto keywords = bench.item("keywords");
+    auto& list = dynamic_cast<KTMetadataFieldMultipleValueArrayViewItem&>(*keywords);
+    for (const char* keyword : {"alpha", "beta", "gamma"})
+        list.setValue(keyword + round, list.values().size());
+    while (list.values().size() > 3) // those of the round before: the files do not grow
+        list.setValue("", 0);
+}
+
+void saveAll(Bench& bench) {
+    bool isSaved = false;
+    bench.manager.savePhotos(*bench.manager.photos(), [&] { isSaved = true; });
+    while (!isSaved)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+/// Every photo is edited in four steps, or more, which undo takes back one by one.
+int workOnFiles(int count, char** files) {
+    const QTemporaryDir folder;
+    Bench bench;
+    int refused = 0;
+    for (std::size_t i = 0; i < kEdited; ++i) {
+        const std::filesystem::path file = files[i % std::size_t(count)];
+        const auto copy = std::filesystem::path(folder.path().toStdString()) /
+                          (std::to_string(i) + "-" + file.filename().string());
+        std::filesystem::copy_file(file, copy);
+        std::filesystem::permissions(copy, std::filesystem::perms::owner_write,
+                                     std::filesystem::perm_options::add);
+        if (auto photo = KTPhoto::initWithFile(copy); !photo || !bench.manager.addNewPhoto(photo))
+            ++refused;
+    }
+    bench.manager.setSelectedPhotos(*bench.manager.photos());
+    KTDateShiftViewController tool(bench.manager, bench.catalogue,
+                                   KTTimeZoneManager::sharedTimeZoneManager());
+    tool.setup();
+    std::printf("%zu copies of %d files, %d refused; %.0f MB in use\n", bench.manager.photos()->size(), count,
+                refused, megabytesInUse());
+    for (int round = 0; round < kRounds; ++round) {
+        tool.setIsNegative(round % 2 == 0);
+        tool.setMagnitude(KTDateShiftViewController::Seconds, 91785);
+        const double shift = secondsOf([&] { tool.shiftDateTimeOriginalApply(); });
+        const double texts = secondsOf([&] { setCaptionAndKeywords(bench, std::to_string(round)); });
+        const int steps = round == 0 ? 5 : 8; // the shift, the caption, keywords that come and go
+        const double undo = secondsOf([&] {
+            for (int step = 0; step < steps; ++step)
+                bench.undo->undo();
+        });
+        const std::size_t unsaved = bench.manager.unsavedPhotos()->size();
+        const double redo = secondsOf([&] {
+            for (int step = 0; step < steps; ++step)
+                bench.undo->redo();
+        });
+        const double save = secondsOf([&] { saveAll(bench); });
+        std::printf(
+            "round %2d: shift %4.0f ms, caption and keywords %4.0f ms, undo of %d steps %4.0f ms (%zu "
+            "unsaved), redo %4.0f ms, save %5.1f s (%zu unsaved); %.0f MB in use\n",
+            round + 1, shift * 1000, texts * 1000, steps, undo * 1000, unsaved, redo * 1000, save,
+            bench.manager.unsavedPhotos()->size(), megabytesInUse());
+        std::fflush(stdout);
+    }
+    tool.tearDown();
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     KTUserDefaults::useThrowAwayDomain();
+    if (argc > 2)
+        return workOnFiles(argc - 1, argv + 1);
     const auto model = argc == 2 ? KTPhoto::initWithFile(argv[1]) : nullptr;
     if (!model) {
-        std::fprintf(stderr, "usage: EditingBenchmark PHOTO\n");
+        std::fprintf(stderr, "usage: EditingBenchmark PHOTO…\n");
         return 2;
     }
     edit(*model);

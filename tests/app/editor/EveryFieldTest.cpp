@@ -134,11 +134,28 @@ std::string kindOf(const KTPhoto& photo) {
 
 } // namespace
 
+TEST_F(EveryField, IsAmongThoseTyped) {
+    std::set<std::string_view> typed;
+    for (const Row& row : kRows)
+        typed.insert(row.key);
+    add("a.jpg");
+    selectAll();
+    for (const auto& field : catalogue.metadataFields()) {
+        const auto editorOfField = item(field->key().c_str());
+        EXPECT_EQ(editorOfField && editorOfField->isEditable(), typed.contains(field->key())) << field->key();
+    }
+}
+
 TEST_F(EveryField, ReachesMadeFiles) {
     std::filesystem::create_directory(folder / "photos");
     add("photos/blocks.jpg", {{"EXIF:Make", "Maker"}, {"IPTC:Headline", "Old"}, {"XMP:Label", "Old"}});
     for (const char* name : {"photos/none.jpg", "photos/a.tif", "photos/a.png", "photos/raw.nef"})
         add(name);
+    const std::string oldSidecar =
+        R"(<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>)"
+        R"(<rdf:Description rdf:about='' xmlns:xmp='http://ns.adobe.com/xap/1.0/' xmp:Label='Old'/></rdf:RDF></x:xmpmeta>)";
+    folder.file("photos/sidecar.xmp", oldSidecar);
+    EXPECT_TRUE(add("photos/sidecar.nef")->writingToXMPSidecar());
     selectAll();
     expectEveryFieldInTheFiles();
 }

@@ -24,11 +24,6 @@ bool isFolder(const std::filesystem::path& path) {
     return std::filesystem::is_directory(path, ignored);
 }
 
-std::string counted(std::size_t count, const char* one, const char* many) {
-    return count == 1 ? KTLocalizedString(one)
-                      : KTStringWithFormat(KTLocalizedString(many), {std::to_string(count)});
-}
-
 } // namespace
 
 bool WaymarkAppController::validateFilesAtPaths(const Paths& paths) const {
@@ -50,11 +45,11 @@ std::string WaymarkAppController::descriptionOfDrop(const Paths& paths) const {
     }
     std::vector<std::string> parts;
     if (photos != 0)
-        parts.push_back(counted(photos, "1 photo", "%d photos"));
+        parts.push_back(KTLocalizedCount("1 photo", "%d photos", photos));
     if (tracks != 0)
-        parts.push_back(counted(tracks, "1 track", "%d tracks"));
+        parts.push_back(KTLocalizedCount("1 track", "%d tracks", tracks));
     if (folders != 0)
-        parts.push_back(counted(folders, "1 folder", "%d folders"));
+        parts.push_back(KTLocalizedCount("1 folder", "%d folders", folders));
     if (parts.empty())
         return {};
     std::string list = parts.back();

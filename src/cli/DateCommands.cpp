@@ -209,10 +209,10 @@ private:
 
 template<class DateToolCommand>
 DateToolCommand& add(CLI::App& app, CommandList& commands, CLI::App*& parser, const char* name,
-                     const char* description) {
+                     const std::string& description) {
     auto command = std::make_unique<DateToolCommand>();
     DateToolCommand& added = *command;
-    parser = app.add_subcommand(name, KTLocalizedString(description));
+    parser = app.add_subcommand(name, description);
     commands.push_back({parser, std::move(command)});
     return added;
 }
@@ -228,8 +228,9 @@ void addDateCommands(CLI::App& app, CommandList& commands) {
     CLI::App* parser = nullptr;
     const auto isDateName = CLI::IsMember({"original", "digitized", "creation"});
 
-    auto& shift = add<ShiftCommand>(app, commands, parser, "shift",
-                                    "Move the capture date from what the files hold, and save");
+    auto& shift =
+        add<ShiftCommand>(app, commands, parser, "shift",
+                          KTLocalizedString("Move the capture date from what the files hold, and save"));
     parser->add_flag("--digitized", shift.digitized, KTLocalizedString("Also the date of digitization"));
     parser
         ->add_option("SECONDS", shift.seconds,
@@ -238,8 +239,9 @@ void addDateCommands(CLI::App& app, CommandList& commands) {
         ->check(CLI::Range(std::int64_t(-400'000'000'000), std::int64_t(400'000'000'000)));
     addPathsAndSaving(*parser, shift);
 
-    auto& copy = add<CopyDateCommand>(app, commands, parser, "copy-date",
-                                      "Copy one of the dates of each photo to others of it, and save");
+    auto& copy = add<CopyDateCommand>(
+        app, commands, parser, "copy-date",
+        KTLocalizedString("Copy one of the dates of each photo to others of it, and save"));
     parser
         ->add_option("--from", copy.from,
                      KTLocalizedString("The date to copy: original, digitized, creation"))
@@ -253,8 +255,8 @@ void addDateCommands(CLI::App& app, CommandList& commands) {
         ->check(isDateName);
     addPathsAndSaving(*parser, copy);
 
-    auto& set =
-        add<SetDateCommand>(app, commands, parser, "set-date", "Give every photo one capture date, and save");
+    auto& set = add<SetDateCommand>(app, commands, parser, "set-date",
+                                    KTLocalizedString("Give every photo one capture date, and save"));
     parser
         ->add_option(
             "--precision", set.precision,

@@ -1,7 +1,8 @@
-#include "collection/DemoTrip.h"
 #include "cli/GeotagCommand.h"
+#include "collection/DemoTrip.h"
 
 #include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,9 +22,11 @@ public:
             return session.exitStatus();
         }
         if (!session.json)
-            std::printf(
-                "Made a small trip in %s: 12 photos (camera clock at UTC%s) and the track of the walk.\n\n",
-                place.c_str(), DemoTrip::kTimeZone);
+            std::printf("%s\n\n",
+                        KTStringWithFormat(KTLocalizedString("Made a small trip in %@: 12 photos (camera "
+                                                             "clock at UTC%@) and the track of the walk."),
+                                           {place.string(), DemoTrip::kTimeZone})
+                            .c_str());
         session.libraryFile = ":memory:";
         GeotagCommand geotag;
         geotag.paths = {trip.photos.string()};
@@ -46,15 +49,17 @@ private:
     static void sayWhatNext(const DemoTrip& trip) {
         const std::string photos = trip.photos.string(), track = trip.track.string();
         std::printf(
-            "\nThe positions are in the photos now. Try next:\n"
+            "\n%s\n"
             "  exiftool -n -gps:all %s/IMG_0101.jpg\n"
             "  waymark-cli read %s/IMG_0101.jpg\n"
-            "  waymark-cli set \"caption=By the lake\" \"keywords=lake|walk\" %s\n"
+            "  waymark-cli set \"caption=%s\" \"keywords=%s\" %s\n"
             "  waymark-cli geotag --track %s --time-zone %s --time-weighted --overwrite --dry-run %s\n"
-            "With your own photos:\n"
+            "%s\n"
             "  waymark-cli geotag --track TRACK.gpx --time-zone +02:00 --backup FOLDER PHOTOS\n",
-            photos.c_str(), photos.c_str(), photos.c_str(), track.c_str(), DemoTrip::kTimeZone,
-            photos.c_str());
+            KTLocalizedString("The positions are in the photos now. Try next:").c_str(), photos.c_str(),
+            photos.c_str(), KTLocalizedString("By the lake").c_str(), KTLocalizedString("lake|walk").c_str(),
+            photos.c_str(), track.c_str(), DemoTrip::kTimeZone, photos.c_str(),
+            KTLocalizedString("With your own photos:").c_str());
     }
 };
 

@@ -157,7 +157,9 @@ void GeotagReport::printText(const GeotagOutcome& outcome) const {
         const std::string place = KTGazetteer::locationDescriptionFromDictionary(point->locationDictionary());
         if (!place.empty() && !point->requestFailure())
             line += " " + place;
-        line += dryRun ? " [dry run]" : outcome.isSaved() ? "" : " NOT SAVED";
+        line += dryRun              ? KTLocalizedString(" [dry run]")
+                : outcome.isSaved() ? ""
+                                    : KTLocalizedString(" NOT SAVED");
     }
     std::printf("%s\n", line.c_str());
 }
@@ -216,7 +218,7 @@ void GeotagReport::printTextSummary(const KTGeotaggingSummary& summary) const {
             std::printf("%s\n", text->c_str());
     const auto printCount = [](std::size_t count, const char* text) {
         if (count != 0)
-            std::printf("%s\n", KTStringWithFormat(KTLocalizedString(text), {std::to_string(count)}).c_str());
+            std::printf("%s\n", KTLocalizedCount(text, count).c_str());
     };
     printCount(unreadable, "%d could not be read.");
     printCount(unsaved, "%d could not be saved.");

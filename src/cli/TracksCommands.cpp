@@ -53,10 +53,14 @@ private:
     }
 
     static void printText(const std::string& file, const KTTrackImportResult& result) {
-        std::printf("%s: %s%lld points (%lld with a date), %lld waypoints\n", file.c_str(),
-                    result.alreadyImported ? "already imported, " : "",
-                    static_cast<long long>(result.pointCount), static_cast<long long>(result.datedPointCount),
-                    static_cast<long long>(result.waypointCount));
+        const std::string format =
+            result.alreadyImported
+                ? KTLocalizedString("%@: already imported, %@ points (%@ with a date), %@ waypoints")
+                : KTLocalizedString("%@: %@ points (%@ with a date), %@ waypoints");
+        std::puts(KTStringWithFormat(format, {file, std::to_string(result.pointCount),
+                                              std::to_string(result.datedPointCount),
+                                              std::to_string(result.waypointCount)})
+                      .c_str());
     }
 };
 
@@ -106,10 +110,11 @@ private:
                                      {KTISO8601Text(*track.firstDate), KTISO8601Text(*track.lastDate)})
                 : KTLocalizedString("no dates");
         const auto count = track.kind == KTTrack::Kind::Waypoints ? track.waypointCount : track.pointCount;
-        std::printf("%lld\t%s\t%s\t%lld %s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
-                    track.name.c_str(), static_cast<long long>(count),
-                    track.kind == KTTrack::Kind::Waypoints ? "waypoints" : "points", span.c_str(),
-                    track.sourceFile.c_str());
+        const std::string counted = track.kind == KTTrack::Kind::Waypoints ? KTLocalizedString("%@ waypoints")
+                                                                           : KTLocalizedString("%@ points");
+        std::printf("%lld\t%s\t%s\t%s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
+                    track.name.c_str(), KTStringWithFormat(counted, {std::to_string(count)}).c_str(),
+                    span.c_str(), track.sourceFile.c_str());
     }
 };
 

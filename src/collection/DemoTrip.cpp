@@ -2,6 +2,7 @@
 
 #include "metadata/KTExifTool.h"
 #include "platform/common/KTCalendar.h"
+#include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
 #include "platform/desktop/KTResources.h"
 
@@ -82,13 +83,13 @@ std::optional<std::string> writePhoto(const fs::path& file, const fs::path& pict
 std::optional<std::string> DemoTrip::makeIn(const fs::path& folder) {
     std::error_code error;
     if (fs::exists(folder, error) && !fs::is_empty(folder, error))
-        return folder.string() + " is not empty";
+        return KTStringWithFormat(KTLocalizedString("%@ is not empty"), {folder.string()});
     photos = folder / "photos";
     track = folder / "walk.gpx";
     if (fs::create_directories(photos, error); error)
         return photos.string() + ": " + error.message();
     if (!writeTrack(track))
-        return track.string() + " could not be written";
+        return KTStringWithFormat(KTLocalizedString("%@ could not be written."), {track.string()});
     int number = 0;
     for (const auto& seconds : kPhotoTimes) {
         ++number;

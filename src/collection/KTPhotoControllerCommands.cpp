@@ -3,7 +3,6 @@
 #include "collection/KTPhotoFileList.h"
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTLocalizedString.h"
-#include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
 
 #include <algorithm>
@@ -60,9 +59,10 @@ void KTPhotoController::removePhotos(const Photos& photos) {
     if (photoWindow == nullptr)
         return;
     photoWindow->presentAlert(
-        {.message = KTStringWithFormat(KTLocalizedString("You have %d photos with unsaved changes. Are you "
-                                                         "sure you want to remove them?"),
-                                       {std::to_string(unsaved)}),
+        {.message =
+             KTLocalizedCount("You have %d photos with unsaved changes. Are you sure you want to remove "
+                              "them?",
+                              std::size_t(unsaved)),
          .informativeText = KTLocalizedString("If you don't save, all changes will be lost."),
          .buttons = {KTLocalizedString("Discard Changes & Remove Photos"), KTLocalizedString("Cancel")},
          .completion = [this, photos](std::size_t button) { removePhotosAlertDidEnd(button, photos); }});
@@ -194,14 +194,12 @@ void KTPhotoController::confirm(const ConfirmedRemoval& removal) {
     const Snapshot photos = selectedPhotos();
     if (photoWindow == nullptr || photos->empty())
         return;
-    photoWindow->presentAlert(
-        {.message = KTLocalizedString(removal.message),
-         .informativeText =
-             KTStringWithFormat(KTLocalizedString(removal.informativeText), {std::to_string(photos->size())}),
-         .buttons = {KTLocalizedString("OK"), KTLocalizedString("Cancel")},
-         .completion = [this, &removal, photos](std::size_t button) {
-             alertDidEnd(button, removal, *photos);
-         }});
+    photoWindow->presentAlert({.message = KTLocalizedString(removal.message),
+                               .informativeText = KTLocalizedCount(removal.informativeText, photos->size()),
+                               .buttons = {KTLocalizedString("OK"), KTLocalizedString("Cancel")},
+                               .completion = [this, &removal, photos](std::size_t button) {
+                                   alertDidEnd(button, removal, *photos);
+                               }});
 }
 
 void KTPhotoController::alertDidEnd(std::size_t returnCode, const ConfirmedRemoval& contextInfo,

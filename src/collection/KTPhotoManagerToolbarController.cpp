@@ -2,17 +2,6 @@
 
 #include "collection/KTPhotoManager.h"
 #include "platform/common/KTLocalizedString.h"
-#include "platform/common/KTText.h"
-
-namespace {
-
-/// "1 loaded photo" or "5 loaded photos".
-std::string countText(std::size_t count, std::string_view one, std::string_view several) {
-    return count == 1 ? KTLocalizedString(one)
-                      : KTStringWithFormat(KTLocalizedString(several), {std::to_string(count)});
-}
-
-} // namespace
 
 KTPhotoManagerToolbarController::KTPhotoManagerToolbarController(KTPhotoManager& content)
     : manager(content), loaded(content.photos()->size()), unsaved(content.unsavedPhotos()->size()),
@@ -49,9 +38,9 @@ void KTPhotoManagerToolbarController::follow(const KTChange& change) {
 
 void KTPhotoManagerToolbarController::describe() {
     std::string text = loaded == 0 ? KTLocalizedString("No loaded photos")
-                                   : countText(unsaved, "1 photo with unsaved changes, ",
-                                               "%d photos with unsaved changes, ") +
-                                         countText(loaded, "1 loaded photo", "%d loaded photos");
+                                   : KTLocalizedCount("1 photo with unsaved changes, ",
+                                                      "%d photos with unsaved changes, ", unsaved) +
+                                         KTLocalizedCount("1 loaded photo", "%d loaded photos", loaded);
     set("unsavedPhotosDescription", description, std::move(text));
     set("isUnsavedPhotosButtonEnabled", isEnabled, loaded > 0 && unsaved > 0);
 }

@@ -2,7 +2,6 @@
 #include "geotagging/KTGeotaggingController.h"
 #include "platform/cartography/KTMapController.h"
 #include "platform/common/KTLocalizedString.h"
-#include "platform/common/KTText.h"
 #include "platform/geodesy/KTGeodesy.h"
 #include "platform/undo/KTUndoManager.h"
 
@@ -89,8 +88,7 @@ void KTGeotaggingController::geotagPhotosDraggedToLocation(const Photos& given, 
 }
 
 std::string KTGeotaggingController::descriptionOfDropOfPhotos(std::size_t count) {
-    return count == 1 ? KTLocalizedString("Geotag 1 Photo")
-                      : KTStringWithFormat(KTLocalizedString("Geotag %d Photos"), {std::to_string(count)});
+    return KTLocalizedCount("Geotag 1 Photo", "Geotag %d Photos", count);
 }
 
 void KTGeotaggingController::animateNewGeotagAtPoint(KTMapPoint location) {

@@ -14,9 +14,7 @@ struct CountedText {
 
     /// "%d" takes @p count, "%@" takes @p restriction.
     std::string text(std::size_t count, const std::string& restriction = {}) const {
-        if (count == 1)
-            return KTStringWithFormat(KTLocalizedString(one), {restriction});
-        return KTStringWithFormat(KTLocalizedString(several), {std::to_string(count), restriction});
+        return KTStringWithFormat(KTLocalizedCount(one, several, count), {restriction});
     }
 };
 

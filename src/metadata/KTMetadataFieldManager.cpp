@@ -27,12 +27,14 @@ std::shared_ptr<KTMetadataField> fieldOfRow(const KTMetadataFieldRow& row) {
     KTMetadataFieldDefinition definition;
     definition.key = row.key;
     definition.name = localized("MetadataFieldName.", row.key, row.name);
-    definition.secondaryName = orEmpty(row.notes.secondaryName);
+    if (row.notes.secondaryName)
+        definition.secondaryName =
+            localized("MetadataFieldName.", definition.key + ".secondaryName", row.notes.secondaryName);
     if (row.notes.singularName)
         definition.singularName =
             localized("MetadataFieldName.", definition.key + ".singularName", row.notes.singularName);
     definition.usageDescription =
-        localized("MetadataFieldUsageDescription.", row.key, KTMetadataHelpText(row.key, row.name));
+        localized("MetadataFieldUsageDescription.", row.key, KTMetadataHelpText(row.key, definition.name));
     definition.propertyType = row.type;
     definition.exifToolPropertyType = row.notes.writtenType;
     if (row.formatter)

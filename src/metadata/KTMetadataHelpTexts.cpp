@@ -1,6 +1,7 @@
 #include "metadata/KTMetadataHelpTexts.h"
 
 #include "metadata/KTMetadataHelpTable.h"
+#include "platform/common/KTLocalizedString.h"
 
 #include <algorithm>
 
@@ -21,12 +22,13 @@ std::string KTMetadataHelpText(std::string_view key, std::string_view englishNam
     if (!row)
         return "";
     std::string text = "\u2598";
-    text.append(englishName).append("\n\n").append(row->description);
+    text.append(englishName).append("\n\n").append(KTLocalizedString(row->description));
     for (std::string_view example : row->examples)
         if (!example.empty())
             text.append("\n\u2192 ").append(example);
-    for (std::string_view paragraph : {row->source, row->note})
-        if (!paragraph.empty())
-            text.append("\n\n").append(paragraph);
+    if (!row->source.empty())
+        text.append("\n\n").append(row->source);
+    if (!row->note.empty())
+        text.append("\n\n").append(KTLocalizedString(row->note));
     return text;
 }

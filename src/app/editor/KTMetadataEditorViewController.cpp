@@ -29,8 +29,7 @@ std::string KTMetadataEditorViewController::title() const {
     const std::size_t count = editorSelection.photos()->size();
     if (count == 0)
         return KTLocalizedString("No Photos Selected");
-    return count == 1 ? KTLocalizedString("1 photo")
-                      : KTStringWithFormat(KTLocalizedString("%lu photos"), {std::to_string(count)});
+    return KTLocalizedCount("1 photo", "%lu photos", count);
 }
 
 /// Those of a new user where nothing is stored, and where what is stored is no list of groups.

@@ -65,10 +65,8 @@ void KTTrackPickerController::importFilesAtPaths(const KTTrackManager::Paths& fi
                 ->presentProblems(KTLocalizedString("A track file could not be imported."), problems);
         else if (!problems.empty())
             (*controller)
-                ->presentProblems(
-                    KTStringWithFormat(KTLocalizedString("%d track files could not be imported."),
-                                       {std::to_string(problems.size())}),
-                    problems);
+                ->presentProblems(KTLocalizedCount("%d track files could not be imported.", problems.size()),
+                                  problems);
     });
 }
 
@@ -92,8 +90,7 @@ void KTTrackPickerController::presentProblems(std::string message, const std::ve
     constexpr std::size_t kShown = 10;
     std::vector<std::string> shown(problems.begin(), problems.begin() + std::min(problems.size(), kShown));
     if (problems.size() > kShown)
-        shown.push_back(KTStringWithFormat(KTLocalizedString("… and %d more"),
-                                           {std::to_string(problems.size() - kShown)}));
+        shown.push_back(KTLocalizedCount("… and %d more", problems.size() - kShown));
     if (presenter != nullptr)
         presenter->presentAlert({.message = std::move(message),
                                  .informativeText = KTJoin(shown, "\n"),

@@ -1,0 +1,5608 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Waymark</name>
+    <message>
+        <source> NOT SAVED</source>
+        <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> [dry run]</source>
+        <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and </source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a date: "YYYY-MM-DD HH:MM:SS" is expected</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a number of degrees from -%@ to %@</source>
+        <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a setting: write KEY=VALUE.</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a size: WIDTHxHEIGHT in pixels is expected</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a time zone: +02:00, Z or Area/City is expected</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a value of "%@", which takes %@.</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a value of %@: %@</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" says too little for the precision %@</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"YYYY-MM-DD HH:MM:SS", or its beginning</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos selected</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <extracomment>src/ui/map/MapViewDrops.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 photos are concerned.</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 photos at one place</source>
+        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 photos near here</source>
+        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to the map's centre</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to the waypoint</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ GB</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ KB</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ MB</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ NM</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ PB</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ TB</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ after %@.</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ after photo.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ and %@</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ answered “%@”.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ before %@.</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ before photo.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ broke off before its answer was complete.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot answer at the moment (HTTP status %@).</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot be found. Is there a connection to the network?</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot be reached: %@.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot be read</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot give map tiles at the moment (HTTP status %@).</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ cannot write a picture: %@</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ could not be written.</source>
+        <extracomment>src/collection/DemoTrip.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ day</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ days</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ did not answer in time.</source>
+        <extracomment>src/photo/KTLinkablePointPlace.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ did not answer within %@ seconds.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ does not accept connections.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ from %@ writes and reads a picture</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ from preceding track point and %@ to next track point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ from preceding track point and %@ to next track point for %@</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ ft</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ gave an unexpected answer (HTTP status %@).</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ gave an unexpected answer instead of a map tile (HTTP status %@).</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ gives its tiles only to those who say how they can be reached. Set an e-mail or web address (mapTilesContact).</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ gives no place names at this address (HTTP status %@).</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ has no tiles for some of the places shown (HTTP status %@). The offline map is shown there.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ hour</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ hours</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ is missing</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ is not empty</source>
+        <extracomment>src/collection/DemoTrip.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ is taken as the fixed offset %@, in summer and winter.</source>
+        <extracomment>src/cli/ZoneCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ km</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ m</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ mi</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ minute</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ minutes</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ points</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ redirects to %@, which was not asked.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ refuses to give map tiles (HTTP status %@). The offline map is shown instead.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ refuses to give place names (HTTP status %@).</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ second</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ seconds</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ sent far more than place names.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ to %@</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ was asked for map tiles too often and wants a pause (HTTP status %@).</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ was asked too often and wants a pause (HTTP status %@).</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ was not asked again after it had failed.</source>
+        <extracomment>src/platform/gazetteer/KTGazetteer.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ was not asked, because the program is about to end.</source>
+        <extracomment>src/platform/gazetteer/KTGazetteer.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the photos were taken; give the offset itself to match those</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ waypoints</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@, %@ MB free</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@, line %@: %@</source>
+        <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: %@ points (%@ with a date), %@ waypoints</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: already imported, %@ points (%@ with a date), %@ waypoints</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%d could not be read.</source>
+        <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d could not be saved.</source>
+        <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d folders</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d loaded photos</source>
+        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos already geotagged.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos are more than %@ from the nearest track point.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos are not between points less than %@ apart.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos can be geotagged</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos do not have a time stamp.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos do not have stamps</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos fail both the time and distance critieria.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos failed both the time &amp; distance criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos failed the distance criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos failed the time criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos with unsaved changes, </source>
+        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d track files could not be imported.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d tracks</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d tracks in it</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%llu bytes</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%lu photos</source>
+        <extracomment>src/app/editor/KTMetadataEditorViewController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>+02:00, Z or Area/City (-- before negative ones)</source>
+        <extracomment>src/cli/ZoneCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 shown</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--exiftool FOLDER</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists</source>
+        <extracomment>src/cli/SaveOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 loaded photo</source>
+        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo already geotagged.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo can be geotagged.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo does not have a time stamp</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo does not have a time stamp.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo failed both the time &amp; distance criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo failed the distance criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo failed the time criteria</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo fails both the time and distance critieria.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo is concerned.</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo is more than %@ from the nearest track point.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo is not between points less than %@ apart.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 photo with unsaved changes, </source>
+        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 track</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 track in it</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/%ld of a second</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 dimensional</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 dimensional</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>35mm Focal Length</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A date and a time with seconds are needed here.</source>
+        <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A date is typed as 2014-05-03 17:41:09, or as its beginning.</source>
+        <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A date to set; repeatable</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A neighbouring point must be nearer than this (300)</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new folder for the trip</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A path may be a photo, an XMP sidecar or a folder, which is searched at any depth. Photos are written in one step: whatever happens, a file holds what it held before or its new version as a whole.</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A secure connection to %@ is not possible: %@.</source>
+        <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A server of your choice</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A setting for this run only; repeatable</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A source of map tiles instead of the offline map</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A track file could not be imported.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A track file for this run, beside the library; repeatable</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A track file to draw; repeatable</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Waymark</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual focal length of the lens when the image was shot, in millimeters. For a zoom lens it is the setting in use.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add %@</source>
+        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add GPS tracks</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Photos…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Tracks</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Tracks…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a %@…</source>
+        <extracomment>src/app/editor/KTMetadataFieldMultipleValueArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add keywords from iPhoto</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add photos</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address of a Nominatim server; nothing is sent while it is empty</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address pattern of a server, for example https://tile.example.org/{z}/{x}/{y}.png</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds track files to the library</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adjust Date &amp; Time…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adjust Date &amp;&amp; Time…</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After importing tracks:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>After selecting photos:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aim the image direction at the place shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Photos</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Waypoints</source>
+        <extracomment>src/geotagging/KTAppTrackPickerController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All messages</source>
+        <extracomment>src/collection/KTPhotoOperationWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also photos that already carry a location</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also the date of digitization</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An unknown error occurred when writing to the file.</source>
+        <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aperture</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aperture at which the image was shot, as f-number. A smaller number means a wider opening, more light and less depth of field.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to remove the GPS metadata (latitude, longitude, altitude &amp; GPS date-time) from %d photos?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to remove the image direction metadata from %d photos?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to remove the location shown metadata (latitude shown &amp; longitude shown) from %d photos?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>As the Tile Map Service does</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attribution:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup folder</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin Where the Map Is Now</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin where the map was last</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both criteria must hold, not either</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brief summary of what the image shows, like the headline of a newspaper article. It goes with the description and does not replace it.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the lake</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cache folder</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cache:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera Make</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera Model</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera clock</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel Import</source>
+        <extracomment>src/ui/support/ImportProgressLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change the permissions of the folder (chmod u+rwx), or its owner.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the installation and say what to do</source>
+        <extracomment>src/cli/DoctorCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check what was written</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another one in the preferences, or turn backups off.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another time zone</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose files</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the photos to be geotagged</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose track files of a GPS receiver</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose where the backups go</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City of the photographer's business address, not the city where the image was shot.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City where the photo was taken</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City, town or village in which the image was shot. Leave it empty out in the country and name the place in the sublocation.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City, town or village that the image shows. Picture agencies search this field first when they look for a place. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>src/ui/window/DemoTripCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collections of tracks</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns of the photo table</source>
+        <extracomment>src/ui/photos/PhotoTableView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common Tags</source>
+        <extracomment>src/metadata/KTMetadataFieldManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compact Rows</source>
+        <extracomment>src/ui/photos/PhotoTableView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect the receiver, wait until it appears as a disk, and try again.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contact:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies the dates; nothing is written yet</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copright URL</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Coordinates</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Date &amp; Time…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Date Time Created</source>
+        <extracomment>src/datetools/KTDateCopyViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Date Time Digitized</source>
+        <extracomment>src/datetools/KTDateCopyViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Date Time Original</source>
+        <extracomment>src/datetools/KTDateCopyViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy a position first, such as “46.05108, 14.50513” or “46° 3′ 3.9″ N, 14° 30′ 18.5″ E”.</source>
+        <extracomment>src/app/WaymarkAppControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy event tag from iPhoto</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy image files into a backup folder before writing to them</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy one of the dates of each photo to others of it, and save</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy original image to backup folder</source>
+        <extracomment>src/photo/KTPhotoSaving.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy people tag from iPhoto</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyright Notice</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyright Status</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyrighted</source>
+        <extracomment>src/app/editor/KTCopyrightStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country Code</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country of the photographer's business address, by its full name.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country where the photo was taken</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create temporary directory</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create temporary item url</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creation Date</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creation Time</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creation date</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Creator's Jobtitle</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit Line</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit to be printed with the image when it is published, in the wording that the supplier asks for.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Criteria</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Metadata</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <extracomment>src/platform/presentation/KTManualPage.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data folder</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data of the program</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date &amp; Time Tools</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date Digitized</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time at which any of the image's metadata was last changed. Catalogue programs compare it to find out which copy of the metadata is the latest.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time at which the file was created on the disk. It is kept by the file system and may change when the file is copied.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time at which the image became digital. The same as the original date for a digital camera; for a scanned print, slide or negative, the time of the scan.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time at which the image itself was last changed, as recorded within the file by the camera or by the program that edited it.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time at which the image was shot, as the camera's clock showed it. Images are placed along a track by this time, so the clock must be right or corrected.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time of the position, taken from the satellites' clocks and stored in UTC. As it does not depend on the camera's clock, it shows by how much that clock is off.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date tool</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, east positive</source>
+        <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, north positive</source>
+        <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, or both coordinates in any usual notation</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete from the library by the ids that list shows</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description Writer</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deselect All Photos</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differential</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Differential correction</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digitization Attributes</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digitized Date Change</source>
+        <extracomment>src/photo/KTPhotoDateFamily.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digitized date</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dilution of precision: how much the placement of the satellites in the sky enlarges the position's error. 1 is ideal, below 5 is good, above 10 is poor.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction in which the camera pointed, in degrees clockwise from true north: 0 is north, 90 east, 180 south and 270 west.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction in which the receiver moved, in degrees clockwise from north: 90 is east, 180 south and 270 west. The camera may have pointed elsewhere.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard Changes &amp; Quit</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard Changes &amp; Remove Photos</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance between the track points</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download Tracks from GPS</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw photos and tracks on a map, as a picture</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop photos here</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dropping geotags to this place.</source>
+        <extracomment>src/ui/map/MapViewDrops.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ENVIRONMENT</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXIF Version</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXIT STATUS</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each batch makes a folder of its own, named by date and time</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each file holds what it held before, or its new version as a whole. Look whether it has what you changed last.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Earlier by</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit %@</source>
+        <extracomment>src/app/editor/KTMetadataFieldArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Editorial urgency of the image for a news desk, from 1 (most urgent) through 5 (normal) to 8 (least urgent).</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edits, then photos or folders; an empty value clears</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else at the place below</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else in the computer's</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else it becomes the time of writing</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else they come from tracks only</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email address at which clients reach the photographer. Whoever receives the file can read it. Separate several addresses with a comma.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors &amp; warnings</source>
+        <extracomment>src/collection/KTPhotoOperationWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <extracomment>src/collection/KTPhotoOperationWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything was done.</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exact place that the image shows, such as a building, a landmark or a mountain. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exact place where the camera stood, within the city or outside of one: a quarter, a square, a building or a natural feature.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example Press Ltd.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export GPX…</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exposure Bias</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exposure Program</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exposure compensation that was dialed in, in steps of exposure value (EV). Negative values make the image darker, positive ones brighter.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILES</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed to create a legitimate source URL.</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Far From Any Track</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching the city from %@…</source>
+        <extracomment>src/photo/KTLinkablePointPlace.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching the country from %@…</source>
+        <extracomment>src/photo/KTLinkablePointPlace.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching the location description from %@…</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching the state from %@…</source>
+        <extracomment>src/photo/KTLinkablePointPlace.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field of View</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Size</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Type</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that can be opened</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter by name or tag</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter photos</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finishes the file that is being read and leaves out the rest</source>
+        <extracomment>src/ui/support/ImportProgressLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finishes the photo at work and leaves the others as they are</source>
+        <extracomment>src/ui/window/BatchProgressSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit the Selection</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flags</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focal Length</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focal length that gives the same field of view on 35mm film, in millimeters. Use it to compare images from cameras with sensors of different size.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of a newer one, from the next start on; empty for the one that Waymark came with</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folders of photos: whether photos can be saved there</source>
+        <extracomment>src/cli/DoctorCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For a clock that was wrong, not only set to another zone</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For distances and heights</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For example 25 m or 80 ft</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For example 5 min or 90 s</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For {key}</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For {s}, parted by commas</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format of the file, recognized by its content and not by its extension.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward, or back where negative (-- before negative ones)</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full name of the country in which the image was shot, in the language of your other texts.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full name of the country that the image shows; it differs from the one where the camera stood for a view across a border. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further categories that refine the main one, in words or codes of at most 32 characters each. Keywords have taken their place in most workflows.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GLOBAL OPTIONS</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GMT.</source>
+        <extracomment>src/geotagging/KTTimeZoneHUDController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GPS Date &amp; Time</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GPS Version ID</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GeoNames (offline)</source>
+        <extracomment>src/platform/gazetteer/KTOfflineReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geodetic datum, the model of the earth's shape that latitude and longitude refer to. GPS receivers and web maps use WGS-84.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Geotag %d Photos</source>
+        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Geotag 1 Photo</source>
+        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag Photos</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag only photos between two track points so close to each other</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag only photos that were taken so close in time to a track point</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to %1</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to Map Center</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to Map Center and Go On</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to point</source>
+        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotagging</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotagging Console</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotagging photo %u of %u</source>
+        <extracomment>src/geotagging/KTGeotaggerSaving.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotags</source>
+        <extracomment>src/metadata/KTMetadataFieldManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotags all selected photos at once</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotags the selected photos to a place on the map</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give every photo one capture date, and save</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the photos their proposed locations; nothing is written yet</source>
+        <extracomment>src/ui/console/BatchPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the selected photos the place of the selected waypoint</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the selected photos the place under the crosshairs</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the coordinates</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the camera above sea level, in the unit chosen for heights; negative below sea level. The file holds it in meters.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the camera's sensor in millimeters. Together with the width it shows the sensor's format, such as full frame (36 by 24 mm) or APS-C (about 23 by 15 mm).</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal angle of the scene that the image covers, in degrees, calculated from the focal length and the size of the sensor.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much of the date is known</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much of the date is known: second, minute, hour, day, month, year</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IPTC Scene Codes</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IPTC Subject Codes</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ISO 3166-1 code of the country that the image shows. Prefer the code of three letters: IPTC takes no other. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ISO 3166-1 code, of two or three capital letters, of the country in which the image was shot.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ids</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you don't save, all changes will be lost.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image File</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image Size</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image files and sidecars</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image files of open formats, sidecars for raw files</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image files only</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <extracomment>src/ui/support/ImportProgressLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import progress</source>
+        <extracomment>src/ui/support/ImportProgressLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import track files (GPX, NMEA, KML, KMZ, TCX, FIT, IGC, CSV)</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importing track file %lu of %lu</source>
+        <extracomment>src/platform/tracklibrary/KTTrackManagerWork.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In batches</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In pixels</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the standard mode</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicates the status of flash when the image was shot.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicates whether the image is protected by copyright or free for everyone. Leave it blank when you do not know; that makes no claim either way.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicates whether the receiver had a valid measurement when the image was shot. When the measurement is void, the position may be the last known one or missing.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicates whether the receiver measured the altitude too. Three dimensions need at least four satellites; with two dimensions do not rely on the altitude.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indicates whether the receiver refined the position with correction signals from reference stations, which brings it to within a few meters or better.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install Waymark again.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the package gpsbabel for NMEA, KML, TCX, FIT, IGC and CSV files.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the package libimage-exiftool-perl, or name a folder that holds Image/ExifTool.pm with --exiftool.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instructions of the supplier to whoever publishes the image, such as an embargo or other restrictions.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Intellectual Genre</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Interpolate between the neighbours</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It failed in %@: %@.</source>
+        <extracomment>src/export/KTPluginError.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was interrupted: the photo being written was finished.</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was made for another version of Waymark.</source>
+        <extracomment>src/export/KTPluginManifest.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its library cannot be loaded.</source>
+        <extracomment>src/export/KTPluginBundle.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its library is missing.</source>
+        <extracomment>src/export/KTPluginManifest.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its library was made for another version of Waymark.</source>
+        <extracomment>src/export/KTPluginBundle.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its manifest cannot be read: %@.</source>
+        <extracomment>src/export/KTPluginManifest.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its manifest is damaged.</source>
+        <extracomment>src/export/KTPluginManifest.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its manifest is not a file.</source>
+        <extracomment>src/export/KTPluginManifest.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its size before scaling</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Job Identifier</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Judge and print, write nothing</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep backups there, in a folder named by date and time</source>
+        <extracomment>src/cli/SaveOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the files' modification dates</source>
+        <extracomment>src/cli/SaveOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the modification date of files</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps the map's present place, scale and source for later starts</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kilometres and metres</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of view, as codes of six digits from the IPTC Scene NewsCodes: 010100 is a headshot, 011200 an aerial view, 011400 a night scene.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LANGUAGE, LC_ALL, LC_MESSAGES, LANG</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest zoom:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Later by</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of the camera when the image was shot, in decimal degrees. North of the equator is positive, south of it negative.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude of what the image shows, in decimal degrees, for a subject at a distance from the camera. North is positive, south negative.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lays the flags down or sets them upright</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave alone photos that have a location</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the altitude alone</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lens that was on the camera, worked out from the lens data that the camera recorded. Lenses that share an identification number may be mistaken for each other.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let altitudes be typed</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licences and sources of data</source>
+        <extracomment>src/ui/windows/AboutBox.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light on dark</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linkable Point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linkable Points</source>
+        <extracomment>src/geotagging/KTGeotaggingController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List the metadata fields by key</source>
+        <extracomment>src/cli/FieldsCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List what the library holds</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading image %lu of %lu</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location Created</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location Shown</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log and notes</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of the camera when the image was shot, in decimal degrees. East of Greenwich is positive, west of it negative.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude of what the image shows, in decimal degrees, for a subject at a distance from the camera. East is positive, west negative.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look up the place shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look up the sample position</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look up where the photo was taken</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for track points…</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made a small trip in %@: 12 photos (camera clock at UTC%@) and the track of the walk.</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made with Natural Earth</source>
+        <extracomment>src/platform/cartography/drawing/KTBaseMapLayer.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main subject of the image as a code of at most three letters, agreed with the receiving agency. Subject codes have taken its place, but some agencies still ask for it.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a small trip, geotag it and say what to try next</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make room: a save needs as much as the photo takes, once more.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a small trip with a track to try the program on</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manufacturer of the equipment that generated the image.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map Datum</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark for your own workflow, most often the name of a color. Other programs show the color only if they use exactly the same name.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Match photos against tracks and write their positions</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measurement Mode</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measurement active</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measurement void</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Megabytes on the disk at most</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metadata Date</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metadata Time</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metering Mode</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Miles and feet</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model name of the camera, scanner or phone that generated the image, as its maker writes it.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modify Date</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modify Time</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move %@ away and import your tracks again.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move and zoom to them</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move dates:</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the capture date from what the files hold, and save</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the file away; then the defaults hold.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to them</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves the dates; nothing is written yet</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves the map to these coordinates</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple Values</source>
+        <extracomment>src/collection/KTTagDetailsWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple values</source>
+        <extracomment>src/app/editor/KTMetadataFieldArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <extracomment>src/platform/presentation/KTManualPage.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name &amp; Date</source>
+        <extracomment>src/metadata/KTMetadataFieldManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the event at which the image was shot. Use the same words for all images of the event, so that they can be found together.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the image file, with its extension, as it stands in the folder.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the person who wrote, edited or corrected the description of the image.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the photographer, or of the company where the photographer is not to be named. Separate several names with a semicolon.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name the place at a position (-- before negative numbers)</source>
+        <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names of the people whom the image shows and who can be recognized, one entry for each person.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nature of the image as a piece of journalism, and not what it shows. Use a term of the IPTC Genre NewsCodes.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nautical miles and metres</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Near &amp; Recent</source>
+        <extracomment>src/geotagging/KTAppTrackPickerController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Near Photos</source>
+        <extracomment>src/geotagging/KTAppTrackPickerController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nearest track point: %@</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Newscodes</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next track point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Description.</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Loaded Tracks</source>
+        <extracomment>src/geotagging/KTGeotaggingConsoleViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Photos Selected</source>
+        <extracomment>src/app/editor/KTMetadataEditorViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No address of map tiles is set.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No capture date</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No city, state, country</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No correction</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No country has this code or name.</source>
+        <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No distance restriction</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file can have a creation date in that year.</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No folder is chosen.</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No loaded photos</source>
+        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No match: nearest track point %@ away</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No match: track points too far apart</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No photo matches the filter.</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No photos</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No server is set that place names could be fetched from.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No time restriction</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No track points</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tracks of a GPS receiver were found.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not geotagged</source>
+        <extracomment>src/photo/KTPhotoPresentation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note: Only those values given in True North will be visible in this application.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be written in the folder “%@”: %@</source>
+        <extracomment>src/platform/desktop/KTItemReplacement.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was recorded here.</source>
+        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notice that claims the copyright, with the year of first publication and the name of the copyright's owner.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number or name of the job or assignment that the image belongs to, for your own workflow or that of the client who receives it.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of photos of a photo library</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offline Map</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <extracomment>src/ui/console/TimeZoneList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One JSON document on standard output instead of text</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the tags or only the properties</source>
+        <extracomment>src/cli/ReadCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation Log</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Organization</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Date</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Date Change</source>
+        <extracomment>src/photo/KTPhotoDateFamily.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Time</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original date</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original owner or first supplier of the image: an agency, an archive or a person. It stays the same when others pass the image on.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other Categories</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite original file</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite original xmp file</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own Tile Server</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste Coordinates</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste Tags</source>
+        <extracomment>src/app/editor/KTCopiedTags.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>People Shown</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Person</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Person or organization that owns the rights in the image, if that is not the photographer.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo Description</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo Library</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo in front: %1 → %2</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo: %@</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photographer</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photographer Contact Info</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos or whole folders, and the GPS tracks of the same days. Nothing is changed in them before you press "Write Changed Tags".</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos there can be read, but not saved: change the permissions of the folder.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos, sidecars or folders</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos…</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <extracomment>src/ui/photos/PhotoListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels for each of these</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place names from:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place names of the sample position</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position or job title of the photographer. It has meaning only together with the creator's name.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Postal Code</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Postal code, such as the ZIP code, of the photographer's business address.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preceding point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preceding track point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Precision:</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preserve modification date</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program that the camera used to set the exposure; it tells which of aperture and shutter speed the photographer chose.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <extracomment>src/ui/window/BatchProgressSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposed Locations</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Public Domain</source>
+        <extracomment>src/app/editor/KTCopyrightStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Qt %1</source>
+        <extracomment>src/ui/windows/AboutBox.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <extracomment>src/app/WaymarkAppDelegate.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read from primary file URL.</source>
+        <extracomment>src/photo/KTPhotoReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read from sidecar file URL.</source>
+        <extracomment>src/photo/KTPhotoReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read metadata from file</source>
+        <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read metadata from image file</source>
+        <extracomment>src/photo/KTPhotoReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read metadata from xmp sidecar</source>
+        <extracomment>src/photo/KTPhotoReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent Imports</source>
+        <extracomment>src/platform/tracklibrary/KTSmartRecentImportsFile.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Region of the world in which the image was shot, usually the continent.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Region of the world that the image shows, usually a continent. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Region, city or offset</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove GPS Tags…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove GPS tags?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Image Direction Tags</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Image Direction…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Location Created Tags</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Location Shown Tags</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Location Shown…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Photos</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Tags</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Tracks</source>
+        <extracomment>src/platform/tracklibrary/KTTrackManagerWork.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove image direction tag?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove latitude &amp; longitude shown</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove location shown tags?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the chosen tracks from the library; the files stay</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove…</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace an altitude that a photo has</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace an image direction that a photo has</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the names of the place shown that a photo has</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the names that a photo has</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Require</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore Usual Columns</source>
+        <extracomment>src/ui/photos/PhotoTableView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reveal in map</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse Geocode</source>
+        <extracomment>src/photo/KTPhotoLocation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse Geocode Location Created</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse Geocode Location Shown</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse Geocoding</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse geocode</source>
+        <extracomment>src/photo/KTPhotoLocation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse geocode location created</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse geocode location shown</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse geocoding photo %u of %u</source>
+        <extracomment>src/collection/KTPhotoControllerGeocoding.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revert to Saved</source>
+        <extracomment>src/app/editor/KTMetadataFieldArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rights</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows count from the south</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SEE ALSO</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SYNOPSIS</source>
+        <extracomment>src/platform/presentation/KTManualPage.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample latitude:</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample longitude:</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Satellites</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Satellites that the position was measured with. Some receivers give their number, others list them with their identification.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as Text…</source>
+        <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save changes</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save current…</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving to photo %u of %u</source>
+        <extracomment>src/collection/KTBatchOperationController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scene Code</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search tags</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search time zones</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All Photos</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Next Photo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Previous Photo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a backup folder</source>
+        <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the next photo after geotagging one</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected photos</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects the next photo as soon as this one is geotagged</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sensitivity to which the camera was set, on the ISO scale. Doubling the number halves the light that is needed and adds noise.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sensor Height</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sensor Width</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial Number</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number of the camera body. It tells two bodies of the same model apart, for example when their clocks differ.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Date &amp; Time…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Location Shown</source>
+        <extracomment>src/photo/KTPhotoLocation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set fields by key and save</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set image direction</source>
+        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set image location shown</source>
+        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the creation date</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the zone of the cameras' clocks, for later runs too, and show the photos' instants</source>
+        <extracomment>src/cli/ZoneCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the date; nothing is written yet</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings folder</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Short name by which the image can be referred to, such as a file number or the name of a work. It identifies the image; use the description to tell what it shows.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all dates in the time zone of the camera clock</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show file names below thumbnails</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show in File Manager</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the geotagging console</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the map</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the metadata of the selected photos</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show photos as:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show positions below thumbnails</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show progress on standard error</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the photos as a table</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the photos as thumbnails</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the version</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what photos hold</source>
+        <extracomment>src/cli/ReadCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all flags on the map</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all waypoints of the track library</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only photos with these words in file name, keywords, people or places</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows or hides the proposed points</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the track points around one photo</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shutter Speed</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidecar</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidecars are XMP files beside the photos</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidecars only</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidecars where there are some, else image files</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the thumbnails</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the thumbnails:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smallest zoom:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of the photos have a date already, which is replaced.</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something failed; the rest was done. What failed and why is in the output.</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source of the map</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source of the map: %1</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source:</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space that the image file takes, in decimal units: a megabyte (MB) is a million bytes.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed at which the receiver moved when the image was shot, in meters per second, converted from kilometers per hour, miles per hour or knots.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State or province of the photographer's business address. Leave it empty where addresses go without one.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State where the photo was taken</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State, province or other part of a country that the image shows. Separate several with a vertical bar.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State, province, canton or other part of the country in which the image was shot.</source>
+        <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <extracomment>src/ui/window/BatchProgressSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Street and number, or post office box, at which the photographer can be reached for business; the company's name may come first.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub-domains:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subject Code</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synchronize metadata</source>
+        <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <extracomment>src/ui/windows/TagDetailsModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag Details</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags:</source>
+        <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the last keyword as the event</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the same names for the place shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes every shift back to what the files hold</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telephone</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Telephone number for business, in international form with plus sign and country code. Separate several numbers with a comma.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Terms under which the image may be used, in plain words or by the name of a license.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the map tiles contains {key}, but no key is set.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the map tiles contains {s}, but no sub-domains are set.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the map tiles contains “{%@}”, which means nothing.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The address of the map tiles must contain {z}, {x} and {y}.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The arguments are wrong; nothing was read or written.</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chosen Image::ExifTool cannot be used.</source>
+        <extracomment>src/ui/main.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard holds no coordinates.</source>
+        <extracomment>src/app/WaymarkAppControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The creation date of “%@” cannot be kept: %@</source>
+        <extracomment>src/platform/desktop/KTFileDates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date that is copied</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date that the photos get</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date to copy: original, digitized, creation</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The demo trip could not be made.</source>
+        <extracomment>src/ui/window/DemoTripCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop application of Waymark. It opens the given photos, folders and tracks. Where it runs already, the running one opens them.</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <extracomment>src/app/thumbnails/ThumbnailDecoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be read to its end: %@</source>
+        <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not hold these values as they were given: %@</source>
+        <extracomment>src/photo/KTWrittenValues.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file had changed since it was read.</source>
+        <extracomment>src/photo/KTPhotoRefreshing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds no picture that can be shown.</source>
+        <extracomment>src/app/thumbnails/KTThumbnailService.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file system has no extended attributes. All metadata is safe there.</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %@ cannot be made.</source>
+        <extracomment>src/app/editor/KTUserTemplates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The image file still holds what was cleared: %@</source>
+        <extracomment>src/photo/KTPhotoRefreshing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language: English, French, German or Spanish</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of places cannot be read.</source>
+        <extracomment>src/platform/gazetteer/KTOfflineReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log could not be saved.</source>
+        <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The modification date could not be read.</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The modification date of “%@” cannot be set: %@</source>
+        <extracomment>src/platform/desktop/KTFileDates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The neighbours must lie no farther apart</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The new file could not be read back: %@</source>
+        <extracomment>src/photo/KTPhotoFileWriting.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The offline map cannot be read from %@: %@</source>
+        <extracomment>src/platform/cartography/drawing/KTBaseMapStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo can be geotagged.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo has a location already.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo has no capture date.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo is more than %@ from the nearest track point, and not between points less than %@ apart.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo is more than %@ from the nearest track point.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo is not between points less than %@ apart.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo was edited before the names of the place were known, so this was not done.</source>
+        <extracomment>src/photo/KTPhotoLocation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo's files do not hold the value of “%@”.</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photos' times are in</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photos' times are read as times of this zone:</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture to write</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be used.</source>
+        <extracomment>src/export/KTPluginError.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The positions are in the photos now. Try next:</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program is about to end.</source>
+        <extracomment>src/photo/KTPhotoRefreshing.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The search for places was cancelled.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server is asked only for photos that you geotag</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the map tiles must lie between 64 and 1024.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The standard mode shows the track points around one photo.</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tag key "%@" contains a quote or a backslash.</source>
+        <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The template could not be saved.</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The texts typed before cannot be offered: %@ cannot be opened (%@).</source>
+        <extracomment>src/platform/defaults/KTComboBoxStoreController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time zone to which the camera's clock was set</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library %@ cannot be opened: %@</source>
+        <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library cannot be used.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library cannot be used: %@</source>
+        <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library could not be changed.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track library file (":memory:" for none kept)</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track points before and after it are %@ apart.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks could not be exported.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks could not be written.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The zooms of the map tiles must lie between 0 and %@, the minimum first.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no track points.</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no display. Start it in a desktop session, or set DISPLAY; without one,
+the command line does the same work: waymark-cli --help
+</source>
+        <extracomment>src/ui/main.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no option %@.</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no photo at “%@”.</source>
+        <extracomment>src/collection/KTPhotoFileSearch.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no place to keep the creation date of “%@”: %@</source>
+        <extracomment>src/platform/desktop/KTFileDates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no setting named "%@".</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no track %@.</source>
+        <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is none.</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be typed.</source>
+        <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file could not be shown before and has not changed since.</source>
+        <extracomment>src/app/thumbnails/KTThumbnailService.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no latitude, such as 46.05108 or 46° 3′ N.</source>
+        <extracomment>src/app/editor/KTMetadataFieldLonLatArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no longitude, such as 14.50513 or 14° 30′ E.</source>
+        <extracomment>src/app/editor/KTMetadataFieldLonLatArrayViewItem.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a number.</source>
+        <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This position does not exist.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This version of Waymark cannot export photos yet.</source>
+        <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tile size:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiles:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Digitized</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time There</source>
+        <extracomment>src/ui/console/TimeZoneList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Zone</source>
+        <extracomment>src/ui/console/TimeZoneList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time Zone of the Camera Clock</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time for which the sensor or film was exposed to light.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time to the nearest track point</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time weighted average point</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time zone: %1</source>
+        <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time zones</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip: Edit the distance criteria or even manually geotag the photos.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip: Edit the distance or time criteria; or manually geotag the photos.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip: Try adjusting the camera's time zone.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip: Use the date &amp; time setter to add a time to the photo.</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the map's centre:</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the waypoint:</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To: %1</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <extracomment>src/ui/map/MapItems.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track Direction</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track Library</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track files</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track formats</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track library</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track point %@ away</source>
+        <extracomment>src/geotagging/KTPhotoMatchTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks</source>
+        <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks and waypoints</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks in use</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks that you add now are kept until you quit. Your library stays as it is.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks…</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try the Demo Trip</source>
+        <extracomment>src/ui/photos/EmptyPhotosView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Unable To Geotag %d Photos</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unable To Geotag 1 Photo</source>
+        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unable to set the photos metadata using ScriptingBridge</source>
+        <extracomment>src/photo/KTiPhotoTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undefined</source>
+        <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>src/app/editor/KTCopyrightStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <extracomment>src/app/editor/KTUserTemplates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled template</source>
+        <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Urgency</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage Terms</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <extracomment>src/platform/presentation/KTManualPage.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Batch Mode</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use Time Zone</source>
+        <extracomment>src/ui/console/TimeZonePicker.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the distance criterion</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the place between the two track points that the time tells</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the time criterion</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the track point that is nearest in time</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use this Image::ExifTool library folder</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use this settings file instead of the user's</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <extracomment>src/ui/windows/TagDetailsModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version of the EXIF standard that the camera followed, in four digits: 0232 stands for EXIF 2.32.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version of the EXIF standard's GPS part that the position data follows. It is written whenever an image is geotagged.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View Options</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waves break over the lighthouse of La Jument during the winter storm.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Way in which the camera measured the light: over the whole frame, around its center or at a single spot.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark</source>
+        <extracomment>src/ui/window/MainWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark %1</source>
+        <extracomment>src/ui/windows/AboutBox.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark geotags photos from GPS tracks and edits their metadata.</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark requires Qt 6.4 or later</source>
+        <extracomment>src/app/WaymarkAppDelegate.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark requires a newer version of Qt</source>
+        <extracomment>src/app/WaymarkAppDelegate.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark was ended while it wrote to photos.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waymark's own data, offline</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waypoint</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waypoints…</source>
+        <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web URL</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web address of a certificate that proves the rights in the image, such as its entry at a rights registry.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web address of a page that states who owns the image and how it may be used. Search engines link to it from their image results.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web address of the photographer's own site or portfolio, in full. Separate several addresses with a comma.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %@ answered is not a place. Is it a Nominatim server?</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %@ sent is far larger than a map tile.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What %@ sent is not a map tile.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the image is about, as codes of eight digits from the IPTC Subject NewsCodes: 15000000 is sport, 15054000 soccer. News agencies sort incoming images by them.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the image shows, in one or more full sentences: who, what, where, when and why. Most programs and web galleries show this text below the image.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the map does</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the server wants to be shown on the map</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When its position is set</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the track has one</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether it is replaced</source>
+        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether one of the two criteria suffices or both must hold</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the camera's clock was slow or fast</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which photos are shown</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width and height of the image in pixels, as it is stored, before any rotation for display.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the camera's sensor in millimeters, as recorded by the camera or calculated from the pixel density on the sensor.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With Unsaved Changes</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With your own photos:</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without Date</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without Location</source>
+        <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words and short phrases by which the image can be found: subjects, concepts, moods and techniques. Enter each one as a keyword of its own.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>World Region</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write Changed Tags</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write all unsaved changes to the photos</source>
+        <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write changes to:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write metadata to file</source>
+        <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write metadata to iPhoto using ScriptingBridge</source>
+        <extracomment>src/photo/KTiPhotoTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the altitude of track points</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write tracks to standard output</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the chosen tracks into a file</source>
+        <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the names of city, state and country with the position</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the operations shown into a file</source>
+        <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written with the position</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>YYYY-MM-DD HH:MM:SS is expected</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %d photos with unsaved changes. Are you sure you want to quit?</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>You have %d photos with unsaved changes. Are you sure you want to remove them?</source>
+        <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Your e-mail address or page, which the server's operator gets with each request</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your rating of the image, from 1 to 5 stars. 0 stands for not rated and -1 for rejected.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zone of the cameras' clocks: +02:00, Z or Area/City</source>
+        <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom %1, centre %2, %3, %4 photos shown, %5 tracks</source>
+        <extracomment>src/ui/map/MapView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom to Photos</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[GLOBAL OPTIONS] COMMAND [OPTIONS] PATH...</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[OPTIONS] [FILE...]</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a character is not valid in the file's encoding</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a complete date and time is expected</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a decimal number is expected</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a former run ended while it wrote %@; the file holds what it held before, or its new version as a whole</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list in JSON</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a name, height or time is too long</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a single tag or comment is too long</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number that is not negative</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all loaded photos, not only the selected ones</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>also the digitized date</source>
+        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an exception without text</source>
+        <extracomment>src/export/KTPluginError.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another time zone…</source>
+        <extracomment>src/geotagging/KTTimeZoneHUDController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>apart</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>both</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be loaded from %@</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copy-date: --to %@ names the date to copy from</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>either</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entity declarations are not accepted</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from %1 tracks</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from 1 track</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>geotag photos from GPS tracks and edit their metadata</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>geotagged</source>
+        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>give photos the places where they were taken</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gpsbabel cannot read it</source>
+        <extracomment>src/platform/tracklibrary/GPSBabelReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gpsbabel found no points in it</source>
+        <extracomment>src/platform/tracklibrary/GPSBabelReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gpsbabel is there</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gpsbabel took too long to read it</source>
+        <extracomment>src/platform/tracklibrary/GPSBabelReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be set</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be unpacked</source>
+        <extracomment>src/platform/tracklibrary/KMZArchive.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a database of another program</source>
+        <extracomment>src/platform/tracklibrary/TrackSchema.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was made by a newer version of Waymark</source>
+        <extracomment>src/platform/tracklibrary/TrackSchema.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lake|walk</source>
+        <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>map, place names and magnetic field are there</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>my computer's time zone (%@).</source>
+        <extracomment>src/geotagging/KTTimeZoneHUDController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nearest point</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no capture date</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no dates</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no place is known there</source>
+        <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no place names are found</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not geotagged</source>
+        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing can be written in %@</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing to change</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of a track point</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only %@ MB are free for %@</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only GPX files can be read</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>photos can be saved, but keep no creation date</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>points at most</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading this kind of file takes the program %@, which cannot be started; install the package gpsbabel (apt install gpsbabel)</source>
+        <extracomment>src/platform/tracklibrary/GPSBabelReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>set takes KEY=VALUE... PATH...</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>skip photos already geotagged</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output could not be written</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the Image::ExifTool in %@ is version %@, which is too old</source>
+        <extracomment>src/metadata/KTExifToolFolder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the KML file in the KMZ archive is too large</source>
+        <extracomment>src/platform/tracklibrary/KMZArchive.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the KMZ archive has too many members</source>
+        <extracomment>src/platform/tracklibrary/KMZArchive.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the KMZ archive holds no KML file</source>
+        <extracomment>src/platform/tracklibrary/KMZArchive.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the KMZ archive is damaged</source>
+        <extracomment>src/platform/tracklibrary/KMZArchive.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the XML is broken: %@</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the date %@ is not between the years 1900 and 2199</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the defaults hold</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the elements are nested too deeply</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the field "%@" cannot be edited</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %@</source>
+        <extracomment>src/platform/tracklibrary/TrackFileReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file ends too early</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the import was stopped</source>
+        <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the log</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the picture cannot be written to %@</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the picture is too large, or its scale is not one from 0.5 to 8</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the settings file %@ cannot be read</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the track library</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>then select the next photo</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no Image/ExifTool.pm in %@</source>
+        <extracomment>src/metadata/KTExifToolFolder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no field "%@" (waymark-cli fields lists them)</source>
+        <extracomment>src/cli/SetCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no folder “%@”</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no source of map tiles named "%@"</source>
+        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <extracomment>src/platform/tracklibrary/KTTrackManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no track %@</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is none yet</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is a folder</source>
+        <extracomment>src/platform/tracklibrary/KTTrackManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a GPX file: it begins with &lt;%@&gt;</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a file</source>
+        <extracomment>src/platform/tracklibrary/KTTrackManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a track file that Waymark knows (%@)</source>
+        <extracomment>src/platform/tracklibrary/TrackFileReading.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not an XML file (%@)</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>time weighted average</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown text encoding “%@”</source>
+        <extracomment>src/platform/tracklibrary/XMLStream.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unsaved changes</source>
+        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>waymark(1), exiftool(1p), gpsbabel(1)</source>
+        <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>waymark-cli(1), exiftool(1p), gpsbabel(1)</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what gpsbabel read of it is not usable: %@</source>
+        <extracomment>src/platform/tracklibrary/GPSBabelReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what was written did not come back</source>
+        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a warning</source>
+        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>within</source>
+        <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>© 2012 Anna Keller. All rights reserved.</source>
+        <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” cannot be copied: %@</source>
+        <extracomment>src/platform/desktop/KTFileOperations.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” cannot be created: %@</source>
+        <extracomment>src/platform/desktop/KTFileOperations.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” cannot be opened: %@</source>
+        <extracomment>src/platform/desktop/KTFileCoordinator.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read: %@</source>
+        <extracomment>src/collection/KTPhotoFileSearch.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” cannot be replaced: %@</source>
+        <extracomment>src/platform/desktop/KTFileOperations.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not a date and time</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not a height in metres</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not a latitude from -90 to 90</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not a longitude from -180 to 180</source>
+        <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not the address of a server that place names could be fetched from.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is not the address of a web server.</source>
+        <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” keeps being changed by another program.</source>
+        <extracomment>src/photo/KTPhotoSaving.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” was changed by another program.</source>
+        <extracomment>src/platform/desktop/KTFileOperations.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” was replaced, but may not be on disk yet: %@</source>
+        <extracomment>src/platform/desktop/KTFileOperations.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“full” keeps names and positions in the log file</source>
+        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %d more</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

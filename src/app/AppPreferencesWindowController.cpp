@@ -36,7 +36,7 @@ std::vector<AppPreferencesWindowController::Pane> allPanes() {
         {KTLocalizedString("Photos"),
          "Photos",
          {"defaultXMPSidecarStyle", kBackups, kBackupFolder, "defaultShouldPreserveModificationDate",
-          "defaultShouldInterpretLastKeywordAsEvent"}},
+          "defaultShouldInterpretLastKeywordAsEvent", "exifToolFolder"}},
         {KTLocalizedString("Reverse Geocoding"),
          "Maps",
          {"reverseGeocoder", "reverseGeocoderServer", kSampleLatitude, kSampleLongitude,

@@ -24,6 +24,8 @@
 #include "platform/gazetteer/KTGazetteer.h"
 #include "platform/undo/KTUndoManager.h"
 
+#include <algorithm>
+
 WaymarkAppController::WaymarkAppController(WaymarkUserInterface& screen, WaymarkModel shared)
     : userInterface(screen), model(std::move(shared)), self(std::make_shared<WaymarkAppController*>(this)) {}
 
@@ -105,6 +107,25 @@ void WaymarkAppController::showWaymarkWindow() {
              .buttons = {KTLocalizedString("OK")}});
 }
 
+void WaymarkAppController::tellProblem(const std::string& message, const std::string& informativeText) {
+    KTPresenter& told = mainWindow ? *mainWindow->window() : userInterface.presenter();
+    told.presentAlert(
+        {.message = message, .informativeText = informativeText, .buttons = {KTLocalizedString("OK")}});
+}
+
+void WaymarkAppController::tellOfFormerRun(const Paths& writesCutShort) {
+    constexpr std::size_t kShown = 10;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(writesCutShort.size(), kShown); ++i)
+        text += KTValidUTF8(writesCutShort[i].string()) + "\n";
+    if (writesCutShort.size() > kShown)
+        text += KTLocalizedCount("… and %d more", writesCutShort.size() - kShown) + "\n";
+    text +=
+        "\n" + KTLocalizedString("Each file holds what it held before, or its new version as a whole. Look "
+                                 "whether it has what you changed last.");
+    tellProblem(KTLocalizedString("Waymark was ended while it wrote to photos."), text);
+}
+
 /// Runs @p handler from the event loop: it destroys the one who announces.
 void WaymarkAppController::afterwards(void (WaymarkAppController::*handler)()) {
     KTPerformOnMainThread([handler, alive = std::weak_ptr(self)] {
@@ -160,9 +181,8 @@ WaymarkAppController::TerminateReply WaymarkAppController::applicationShouldTerm
     isAskingToQuit = true;
     KTPresenter& asked = mainWindow ? *mainWindow->window() : userInterface.presenter();
     asked.presentAlert(
-        {.message = KTStringWithFormat(
-             KTLocalizedString("You have %d photos with unsaved changes. Are you sure you want to quit?"),
-             {std::to_string(unsaved)}),
+        {.message = KTLocalizedCount(
+             "You have %d photos with unsaved changes. Are you sure you want to quit?", std::size_t(unsaved)),
          .informativeText = KTLocalizedString("If you don't save, all changes will be lost."),
          .buttons = {KTLocalizedString("Discard Changes & Quit"), KTLocalizedString("Cancel")},
          .completion = [alive = std::weak_ptr(self)](std::size_t button) {

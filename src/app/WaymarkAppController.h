@@ -37,6 +37,9 @@ public:
     void setupControllers();
     /// Shows the main window; makes it first, and loads the plug-ins soon after, where there is none.
     void showWaymarkWindow();
+    /// Tells the user what a former run was doing when it was ended from outside, or did not do as wanted.
+    void tellOfFormerRun(const std::vector<std::filesystem::path>& writesCutShort);
+    void tellProblem(const std::string& message, const std::string& informativeText);
     void setupPlugins();
 
     KTPhotoManager& photoManager() const { return *model.photoManager; }

@@ -37,6 +37,7 @@ void addDateCommands(CLI::App& app, CommandList& commands); // shift, copy-date,
 void addMapCommand(CLI::App& app, CommandList& commands);
 void addTracksCommands(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
+void addDoctorCommand(CLI::App& app, CommandList& commands);
 
 /// Parses the arguments, makes the application that the command needs and runs it; the exit status of the
 /// process.

@@ -1,4 +1,6 @@
 #include "cli/Command.h"
+#include "cli/CommandManual.h"
+#include "metadata/KTExifToolFolder.h"
 
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
@@ -6,6 +8,7 @@
 #include "platform/defaults/KTSettingsTable.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "platform/desktop/KTAboutText.h"
+#include "platform/desktop/KTWriteNote.h"
 #include "platform/gazetteer/KTGazetteer.h"
 
 #include <CLI/CLI.hpp>
@@ -54,11 +57,10 @@ void apply(const GlobalOptions& options, CommandSession& session) {
             throw UsageError{assignment.error};
         KTUserDefaults::standardUserDefaults().setValueForThisRun(assignment.key, assignment.value);
     }
-    if (!options.exifTool.empty()) {
-        if (!std::filesystem::exists(std::filesystem::path(options.exifTool) / "Image" / "ExifTool.pm"))
-            throw UsageError{KTStringWithFormat(KTLocalizedString("there is no Image/ExifTool.pm in %@"),
-                                                {options.exifTool})};
-        KTExifTool::setLibraryFolder(std::filesystem::absolute(options.exifTool));
+    if (const auto problem = KTUseExifToolFolder(options.exifTool)) {
+        if (!options.exifTool.empty())
+            throw UsageError{*problem};
+        session.message(*problem); // a setting that no longer holds keeps nobody from working
     }
     const std::string units = KTUserDefaults::standardUserDefaults().textForKey("distanceUnits");
     KTUnitConverter::sharedUnitConverter().setDistanceUnits(
@@ -88,6 +90,12 @@ int runWithApplication(Command& command, CommandSession& session, int argc, char
     } else {
         application = std::make_unique<QCoreApplication>(argc, argv);
     }
+    for (const std::filesystem::path& file : KTWriteNote::takeLeftBehind())
+        session.message(KTStringWithFormat(
+            KTLocalizedString(
+                "a former run ended while it wrote %@; the file holds what it held before, or its "
+                "new version as a whole"),
+            {file.string()}));
     const struct Ending {
         ~Ending() { KTGazetteer::sharedGazetteer().close(); }
     } ending; // while there still is an application
@@ -113,6 +121,12 @@ int runCommandLine(int argc, char** argv) {
     addMapCommand(app, commands);
     addTracksCommands(app, commands);
     addDemoCommand(app, commands);
+    addDoctorCommand(app, commands);
+    app.add_flag_function(
+           "--man-page",
+           [&app](std::int64_t) { throw CLI::CallForVersion(manualOfCommandLine(app).roff(), 0); })
+        ->group("")
+        ->trigger_on_parse();
     try {
         app.parse(argumentsForParser(argc, argv));
         apply(options, session);

@@ -87,10 +87,12 @@ void KTExifTool::setLibraryFolder(const std::filesystem::path& folder) {
     libraryFolder() = folder;
 }
 
+std::filesystem::path KTExifTool::usedLibraryFolder() {
+    return libraryFolder().empty() ? KTResourcePath("exiftoollib") : libraryFolder();
+}
+
 KTExifTool::KTExifTool() {
-    const std::filesystem::path folder =
-        libraryFolder().empty() ? KTResourcePath("exiftoollib") : libraryFolder();
-    setValueForVariable(folder.string(), "resourcePath");
+    setValueForVariable(usedLibraryFolder().string(), "resourcePath");
     evaluate("use lib $resourcePath;");
     evaluate("use Image::ExifTool;");
     evaluate(kWalk);

@@ -19,6 +19,9 @@ public:
     /// "exiftoollib".
     static void setLibraryFolder(const std::filesystem::path& folder);
 
+    /// The folder that bridges made now take it from.
+    static std::filesystem::path usedLibraryFolder();
+
     KTExifTool();
     KTExifTool(const KTExifTool&) = delete;
     KTExifTool& operator=(const KTExifTool&) = delete;

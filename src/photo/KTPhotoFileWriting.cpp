@@ -10,6 +10,7 @@
 #include "platform/desktop/KTFileCoordinator.h"
 #include "platform/desktop/KTFileDates.h"
 #include "platform/desktop/KTItemReplacement.h"
+#include "platform/desktop/KTWriteNote.h"
 
 namespace fs = std::filesystem;
 
@@ -63,6 +64,7 @@ std::optional<KTFileStamp> stampAfterWrite(const fs::path& target, const std::op
 
 KTPhoto::WriteResult KTPhoto::writeAndReplace(const WriteRequest& request) {
     const bool isSidecar = request.kind == KTMetadataSource::Sidecar;
+    const KTWriteNote note(request.target);
     KTItemReplacement replacement(request.target);
     if (replacement.error()) {
         log(request.target, "Create temporary directory", *replacement.error());

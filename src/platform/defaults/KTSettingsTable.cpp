@@ -53,6 +53,7 @@ constexpr KTSetting kSettings[] = {
     {"defaultShouldBackupWhenWritingToImageFiles", Boolean, "false"},
     {"defaultShouldPreserveModificationDate", Boolean, "false"},
     {"defaultBackupPathBookmark", Text},
+    {"exifToolFolder", Text, ""},
     {"defaultPhotoImportLocation", Text, {}, homeFolder},
 
     // Metadata

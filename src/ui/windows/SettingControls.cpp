@@ -51,6 +51,7 @@ constexpr Control kControls[] = {
     {"defaultXMPSidecarStyle", "Write changes to:", "Sidecars are XMP files beside the photos", "Image files only|Image files of open formats, sidecars for raw files|Sidecars only|Image files and sidecars|Sidecars where there are some, else image files"},
     {"defaultShouldPreserveModificationDate", "Keep the modification date of files", "Else it becomes the time of writing"},
     {"defaultShouldInterpretLastKeywordAsEvent", "Take the last keyword as the event", "Of photos of a photo library"},
+    {"exifToolFolder", "Image::ExifTool:", "Folder of a newer one, from the next start on; empty for the one that Waymark came with"},
     {"shouldShowTitleDefault", "Show file names below thumbnails", ""},
     {"shouldShowSubtitleDefault", "Show positions below thumbnails", ""},
 

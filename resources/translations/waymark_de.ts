@@ -64,6 +64,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 (shown)</source>
+        <extracomment>src/ui/inspector/CatalogueModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 of %2 photos selected</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -75,7 +80,7 @@
     </message>
     <message>
         <source>%1 photos are concerned.</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -96,6 +101,16 @@
     <message>
         <source>%1 to the waypoint</source>
         <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <extracomment>src/ui/datetools/CoverFlowView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not yet written</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -655,7 +670,7 @@
     </message>
     <message>
         <source>1 photo is concerned.</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -716,6 +731,11 @@
     <message>
         <source>A date to set; repeatable</source>
         <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A group of fields; double click to rename it</source>
+        <extracomment>src/ui/inspector/GroupTreeModel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -784,8 +804,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Add Field</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Add GPS tracks</source>
         <extracomment>src/ui/window/MainToolBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Group</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -824,6 +854,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Add to Photos</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Address</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -836,6 +871,21 @@
     <message>
         <source>Address pattern of a server, for example https://tile.example.org/{z}/{x}/{y}.png</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a group at the end</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the chosen photos and folders, or all of this folder when none is chosen</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the field to the group that is chosen above</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -854,6 +904,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>After</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>After importing tracks:</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -869,6 +924,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>All Fields</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All Photos</source>
         <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -881,6 +941,11 @@
     <message>
         <source>All files</source>
         <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All loaded photos, not only the selected ones</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -920,7 +985,7 @@
     </message>
     <message>
         <source>Apply</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
@@ -968,6 +1033,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Before</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Begin</source>
         <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -990,6 +1060,11 @@
     <message>
         <source>Brief summary of what the image shows, like the headline of a newspaper article. It goes with the description and does not replace it.</source>
         <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings another of the selected photos to the front</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1048,6 +1123,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Change Transitions</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Change the permissions of the folder (chmod u+rwx), or its owner.</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1055,6 +1135,16 @@
     <message>
         <source>Changes</source>
         <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check All</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check None</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1075,6 +1165,11 @@
     <message>
         <source>Choose a folder</source>
         <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a template and remove it from the list</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1108,6 +1203,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Choose which fields are shown, in which groups</source>
+        <extracomment>src/ui/inspector/InspectorPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose, save and remove arrangements of fields</source>
+        <extracomment>src/ui/inspector/InspectorPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>City</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1138,6 +1243,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Clear Value</source>
+        <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Close</source>
         <extracomment>src/ui/window/DemoTripCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1163,6 +1273,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Compact rows</source>
+        <extracomment>src/ui/photos/PhotoViewOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Connect the receiver, wait until it appears as a disk, and try again.</source>
         <extracomment>src/platform/tracklibrary/KTTrackPickerControllerCommands.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1173,8 +1288,13 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copies the dates; nothing is written yet</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <source>Copied tags</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies the date within each selected photo; nothing is written yet</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1184,7 +1304,7 @@
     </message>
     <message>
         <source>Copy</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1213,6 +1333,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Copy Machine</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Tags</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Copy a position first, such as “46.05108, 14.50513” or “46° 3′ 3.9″ N, 14° 30′ 18.5″ E”.</source>
         <extracomment>src/app/WaymarkAppControllerCommands.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1223,8 +1353,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Copy from:</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Copy image files into a backup folder before writing to them</source>
         <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy one of a photo's dates to others of it</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1243,6 +1383,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Copy this date. %1.</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Copyright Notice</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1255,6 +1400,21 @@
     <message>
         <source>Copyrighted</source>
         <extracomment>src/app/editor/KTCopyrightStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the dates of a camera whose clock was wrong</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corrected date</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corrected date:</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1304,7 +1464,7 @@
     </message>
     <message>
         <source>Creation date</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1333,6 +1493,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Customize</source>
+        <extracomment>src/ui/inspector/InspectorPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Customize Metadata</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1354,12 +1519,12 @@
     </message>
     <message>
         <source>Date</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Date &amp; Time Tools</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1399,22 +1564,12 @@
     </message>
     <message>
         <source>Date tool</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Date:</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Day</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1479,7 +1634,7 @@
     </message>
     <message>
         <source>Digitized date</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1513,6 +1668,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Disintegrate</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Distance between the track points</source>
         <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1524,12 +1689,22 @@
     </message>
     <message>
         <source>Done</source>
-        <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Download Tracks from GPS</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag a field into a group above, or double click to add it</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag fields and groups, double click to rename, Alt with arrows to move</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1570,11 +1745,6 @@
     <message>
         <source>Each file holds what it held before, or its new version as a whole. Look whether it has what you changed last.</source>
         <extracomment>src/app/WaymarkAppController.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Earlier by</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1628,8 +1798,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Enclosing folder</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>End</source>
         <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End customizing</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End the Slide Show</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1640,6 +1825,11 @@
     <message>
         <source>Errors only</source>
         <extracomment>src/collection/KTPhotoOperationWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1668,6 +1858,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Expat</source>
+        <extracomment>src/platform/desktop/KTEngineVersions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Export</source>
         <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1676,6 +1871,19 @@
         <source>Export GPX…</source>
         <extracomment>src/ui/windows/TrackLibraryWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export canceled.</source>
+        <extracomment>src/export/slideshow/KTSlideShowExporter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Exported %lu photos</source>
+        <extracomment>src/export/slideshow/KTSlideShowExporter.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Exposure Bias</source>
@@ -1695,6 +1903,11 @@
     <message>
         <source>FILES</source>
         <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fade</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1733,6 +1946,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Field</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Field of View</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1755,6 +1973,16 @@
     <message>
         <source>File Type</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File names below thumbnails</source>
+        <extracomment>src/ui/photos/PhotoViewOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files of this kind</source>
+        <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1813,6 +2041,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>src/ui/windows/MediaBrowserModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Folder of a newer one, from the next start on; empty for the one that Waymark came with</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1825,6 +2058,11 @@
     <message>
         <source>For a clock that was wrong, not only set to another zone</source>
         <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For a clock that was wrong. If it was right but set to another time zone, choose that zone under the camera clock of the main window instead.</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1863,8 +2101,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>From:</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <source>From: %1</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2006,6 +2244,21 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Give the photos one date, as far as it is known</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives all selected photos this date; nothing is written yet</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the photos the shifted dates, counted from the saved ones; nothing is written yet</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Gives the photos their proposed locations; nothing is written yet</source>
         <extracomment>src/ui/console/BatchPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2026,8 +2279,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Go On</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Go to the coordinates</source>
         <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <extracomment>src/ui/inspector/InspectorGroup.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups and Fields</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2057,22 +2325,32 @@
     </message>
     <message>
         <source>Hour</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Hours</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>How a photo gives way to the next one</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>How much of the date is known</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <source>How far the dates are moved: %1</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many of the loaded photos would take their place from this track</source>
+        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>How much of the date is known: second, minute, hour, day, month, year</source>
         <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much of the date is known; finer parts stay open</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2168,6 +2446,11 @@
     <message>
         <source>In the standard mode</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the thumbnail browser</source>
+        <extracomment>src/ui/photos/PhotoViewOptions.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2336,6 +2619,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Known to the:</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>LANGUAGE, LC_ALL, LC_MESSAGES, LANG</source>
         <extracomment>src/ui/application/StartOptions.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2348,11 +2636,6 @@
     <message>
         <source>Largest zoom:</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Later by</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2551,6 +2834,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Map of the slide show</source>
+        <extracomment>src/ui/slideshow/SlideShowMap.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Maps</source>
         <extracomment>src/app/AppPreferencesWindowController.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2581,6 +2874,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Media Browser</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Megabytes on the disk at most</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2601,6 +2899,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Metadata fields</source>
+        <extracomment>src/ui/inspector/InspectorPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Metering Mode</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2612,12 +2915,12 @@
     </message>
     <message>
         <source>Minute</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Minutes</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Mod</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2637,7 +2940,7 @@
     </message>
     <message>
         <source>Month</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2646,13 +2949,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move and zoom to them</source>
+        <source>Move In</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move dates:</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Move and zoom to the photo</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move and zoom to them</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2661,18 +2969,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Move the date at which the picture was digitized by the same difference</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Move the file away; then the defaults hold.</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Move to them</source>
+        <source>Move to the photo</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Moves the dates; nothing is written yet</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Move to them</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2763,6 +3076,11 @@
     <message>
         <source>Newscodes</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next Photo</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2876,6 +3194,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>None</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Not geotagged</source>
         <extracomment>src/photo/KTPhotoPresentation.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2898,11 +3221,6 @@
     <message>
         <source>Notice that claims the copyright, with the year of first publication and the name of the copyright's owner.</source>
         <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2933,6 +3251,11 @@
     <message>
         <source>Offset</source>
         <extracomment>src/ui/console/TimeZoneList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On the map</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2977,7 +3300,12 @@
     </message>
     <message>
         <source>Original date</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original date:</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3011,6 +3339,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Page Curl</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Panes</source>
         <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3023,6 +3356,26 @@
     <message>
         <source>Paste Tags</source>
         <extracomment>src/app/editor/KTCopiedTags.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste Tags…</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste the checked values onto %1 photos:</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste the checked values onto the selected photo:</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3056,8 +3409,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Photo in front: %1 → %2</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Photo in front</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo of the slide show</source>
+        <extracomment>src/ui/slideshow/SlideShowView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo shown</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3101,8 +3464,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Pick %1</source>
+        <extracomment>src/ui/inspector/PairFieldEditor.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Picture</source>
         <extracomment>src/ui/photos/PhotoListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3131,6 +3504,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Positions below thumbnails</source>
+        <extracomment>src/ui/photos/PhotoViewOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Postal Code</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3151,8 +3529,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Precision:</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <source>Precision</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3171,6 +3549,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Previous Photo</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Program that the camera used to set the exposure; it tells which of aperture and shutter speed the photographer chose.</source>
         <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3186,13 +3569,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Proposed locations</source>
+        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Public Domain</source>
         <extracomment>src/app/editor/KTCopyrightStatus.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Qt %1</source>
-        <extracomment>src/ui/windows/AboutBox.cpp</extracomment>
+        <source>Push</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <extracomment>src/platform/desktop/KTEngineVersions.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3233,6 +3626,11 @@
     <message>
         <source>Recent Imports</source>
         <extracomment>src/platform/tracklibrary/KTSmartRecentImportsFile.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent Tracks</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3306,6 +3704,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Remove Template</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Templates</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Remove Tracks</source>
         <extracomment>src/platform/tracklibrary/KTTrackManagerWork.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3323,6 +3731,16 @@
     <message>
         <source>Remove location shown tags?</source>
         <extracomment>src/collection/KTPhotoControllerCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the chosen group or field from the inspector</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes the chosen template from the list; its file is deleted by “Done”</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3356,6 +3774,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Replace this date. %1.</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Require</source>
         <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3368,6 +3791,11 @@
     <message>
         <source>Result</source>
         <extracomment>src/ui/windows/OperationLogModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3417,7 +3845,7 @@
     </message>
     <message>
         <source>Revert</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3428,6 +3856,11 @@
     <message>
         <source>Rights</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3471,6 +3904,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Save Template</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Save as</source>
         <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3491,8 +3929,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Save the groups and fields of the inspector as a template named:</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Saved</source>
         <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved date</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved date:</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3516,6 +3969,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Search fields</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Search tags</source>
         <extracomment>src/ui/windows/TagDetailsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3527,12 +3985,12 @@
     </message>
     <message>
         <source>Second</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Seconds</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Seconds for a photo:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3556,13 +4014,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Select photos in the main window; they show here.</source>
+        <extracomment>src/ui/datetools/CoverFlowView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select photos to see and edit their metadata.</source>
+        <extracomment>src/ui/inspector/InspectorPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Select the next photo after geotagging one</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Selected photos</source>
-        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <extracomment>src/ui/datetools/CoverFlowView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3602,7 +4070,7 @@
     </message>
     <message>
         <source>Set</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3641,11 +4109,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sets the date; nothing is written yet</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Settings</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3656,13 +4119,33 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Settings of the slide show</source>
+        <extracomment>src/ui/slideshow/SlideShowSettingsView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Share</source>
         <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift dates:</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift every photo that is loaded, whatever is selected</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift the digitized date, too</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3683,6 +4166,11 @@
     <message>
         <source>Show in File Manager</source>
         <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the fields of this group</source>
+        <extracomment>src/ui/inspector/InspectorGroup.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3726,6 +4214,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Show the tracks near the photos</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show the version</source>
         <extracomment>src/ui/application/StartOptions.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3756,6 +4249,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Shows more photos in the table, with smaller pictures</source>
+        <extracomment>src/ui/photos/PhotoViewOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only fields and groups with this in their name</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Shows only photos with these words in file name, keywords, people or places</source>
         <extracomment>src/ui/photos/PhotoFilterBar.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3763,6 +4266,16 @@
     <message>
         <source>Shows or hides the proposed points</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the folder that holds this one</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the inspector as arranged</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3806,13 +4319,28 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Slide Show</source>
+        <extracomment>src/export/slideshow/KTSlideShowExporterClass.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slide show controls</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slide show in progress</source>
+        <extracomment>src/export/slideshow/KTSlideShowExporter.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Smallest zoom:</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Some of the photos have a date already, which is replaced.</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <source>Some of the selected photos have a date already, which is replaced.</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3841,6 +4369,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Space</source>
+        <extracomment>src/ui/slideshow/SlideShowBar.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Space that the image file takes, in decimal units: a megabyte (MB) is a million bytes.</source>
         <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3858,6 +4391,11 @@
     <message>
         <source>Standard</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starts from the date that the photo in front has now</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3931,6 +4469,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Swipe</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Synchronize metadata</source>
         <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3961,6 +4504,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Take from Photo in Front</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Take the last keyword as the event</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3971,8 +4519,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Takes every shift back to what the files hold</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>Takes the shifts back: the photos get the dates that their files hold</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3986,8 +4534,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Template name</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Templates</source>
         <extracomment>src/app/editor/KTMetadataCustomizationViewController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Templates that you have saved</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Templates:</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4026,6 +4589,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The checked values replace those of the selected photos</source>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The chosen Image::ExifTool cannot be used.</source>
         <extracomment>src/ui/main.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4036,18 +4604,28 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The clock was fast: the right dates are earlier</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clock was slow: the right dates are later</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The creation date of “%@” cannot be kept: %@</source>
         <extracomment>src/platform/desktop/KTFileDates.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The date that is copied</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <source>The date of the photo in front, as its file holds it</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The date that the photos get</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4128,6 +4706,11 @@
     <message>
         <source>The modification date of “%@” cannot be set: %@</source>
         <extracomment>src/platform/desktop/KTFileDates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name under which the menu Templates lists it</source>
+        <extracomment>src/ui/inspector/TemplateSheets.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4221,6 +4804,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The selected photos: arrow keys, the wheel or a click bring another one to the front</source>
+        <extracomment>src/ui/datetools/CoverFlowView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The server is asked only for photos that you geotag</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4251,8 +4839,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The time zone in which the date is given</source>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time zone of both dates</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The time zone to which the camera's clock was set</source>
         <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The track crosses the 180° meridian here; the point lies on the long way round the earth. Better take a track point beside it.</source>
+        <extracomment>src/photo/KTLinkablePoint.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4306,8 +4909,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Then</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <source>There are no photos in this folder.</source>
+        <extracomment>src/ui/windows/MediaBrowserWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4358,6 +4961,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>This field has changes that are not saved. Its menu reverts them.</source>
+        <extracomment>src/ui/inspector/FieldLabel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This file could not be shown before and has not changed since.</source>
         <extracomment>src/app/thumbnails/KTThumbnailService.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4395,6 +5003,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>Tile size:</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiles of a server, shown once it is chosen on the map</source>
+        <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4488,13 +5101,8 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>To:</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>To: %1</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4558,6 +5166,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Transition:</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Try</source>
         <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4592,6 +5205,11 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>Undo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo Typing</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -4672,7 +5290,12 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>Value</source>
-        <extracomment>src/ui/windows/TagDetailsModel.cpp</extracomment>
+        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values of %1</source>
+        <extracomment>src/ui/inspector/LineFieldEditor.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4791,6 +5414,21 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>What it does when another photo is shown</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the button makes of the photo in front, and of the first and the last one</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the clock should have shown: the difference follows from it</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>What the image is about, as codes of eight digits from the IPTC Subject NewsCodes: 15000000 is sport, 15054000 soccer. News agencies sort incoming images by them.</source>
         <extracomment>src/metadata/KTMetadataHelpTableDescription.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4812,7 +5450,12 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>What would change</source>
-        <extracomment>src/ui/windows/DateToolsWindow.cpp</extracomment>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When it was digitized; of a digital camera the same</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4821,23 +5464,23 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>When the file was made, as its folder tells</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the picture was taken</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Where the track has one</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Whether it is replaced</source>
-        <extracomment>src/ui/windows/DateCopyPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Whether one of the two criteria suffices or both must hold</source>
         <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Whether the camera's clock was slow or fast</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4858,6 +5501,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>Window</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With 0, photos change only when you say so</source>
+        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4952,7 +5600,7 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>Year</source>
-        <extracomment>src/ui/windows/DateSetPanel.cpp</extracomment>
+        <extracomment>src/ui/datetools/DateSetPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
@@ -5072,13 +5720,8 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>all loaded photos, not only the selected ones</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>also the digitized date</source>
-        <extracomment>src/ui/windows/DateShiftPanel.cpp</extracomment>
+        <source>already so</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5102,6 +5745,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>by</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>cannot be loaded from %@</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5109,6 +5757,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>copy-date: --to %@ names the date to copy from</source>
         <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>earlier</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5124,6 +5777,16 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>failed</source>
         <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>first</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folded</source>
+        <extracomment>src/ui/inspector/InspectorGroup.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5172,6 +5835,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>in front</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>it cannot be set</source>
         <extracomment>src/cli/SetCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5194,6 +5862,16 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>lake|walk</source>
         <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>later</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5232,6 +5910,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>none</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>not geotagged</source>
         <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5264,6 +5947,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>only GPX files can be read</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open</source>
+        <extracomment>src/ui/inspector/InspectorGroup.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5304,6 +5992,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>standard output could not be written</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stays as it is</source>
+        <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5472,6 +6165,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>to:</source>
+        <extracomment>src/ui/datetools/DateCopyPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>true or false</source>
         <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5483,7 +6181,7 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>unsaved changes</source>
-        <extracomment>src/ui/photos/PhotoStatus.cpp</extracomment>
+        <extracomment>src/ui/inspector/FieldLabel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5514,6 +6212,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>within</source>
         <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without a capture date</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -39,7 +39,7 @@ QColor colour(Sign sign, const QPalette& palette) {
     const bool isDark = isDarkPalette(palette);
     switch (sign) {
     case Unsaved:
-        return isDark ? QColor(253, 155, 75) : QColor(190, 94, 0);
+        return isDark ? QColor(253, 155, 75) : QColor(180, 86, 0);
     case Geotagged:
         return isDark ? QColor(84, 209, 138) : QColor(22, 134, 66);
     default:

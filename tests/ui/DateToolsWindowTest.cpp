@@ -9,9 +9,9 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QLabel>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
@@ -44,7 +44,7 @@ protected:
     void open(unsigned tool) {
         manager.setSelectedPhotos(*manager.photos());
         controller.toggleDateTool(tool);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         settle();
     }
     /// Until what was announced has reached the window.
@@ -87,6 +87,13 @@ protected:
     }
     CoverFlowView& strip() { return *window.findChild<CoverFlowView*>(); }
 
+    /// Where windows keep their places.
+    struct Home {
+        explicit Home(const std::filesystem::path& path) { qputenv("HOME", path.c_str()); }
+        ~Home() { qputenv("HOME", before); }
+        const QByteArray before = qgetenv("HOME");
+    };
+    Home home{folder.path()};
     KTTimeZoneManager displayZone;
     KTDateToolsWindowController controller{manager, KTMetadataFieldManager::sharedMetadataFieldManager(),
                                            displayZone};

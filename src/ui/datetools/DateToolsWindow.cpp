@@ -132,10 +132,12 @@ QWidget* DateToolsWindow::makeButtons() {
     revertButton->setToolTip(uiText("Takes the shifts back: the photos get the dates that their files hold"));
     connect(revertButton, &QPushButton::clicked, this, &DateToolsWindow::revert);
     applyButton = new PrimaryButton(uiText("Apply"));
-    applyButton->setDefault(true);
     connect(applyButton, &QPushButton::clicked, this, &DateToolsWindow::apply);
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
-        connect(new QShortcut(key, this), &QShortcut::activated, applyButton, &QPushButton::click);
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this] {
+            auto* const focused = qobject_cast<QPushButton*>(focusWidget());
+            (focused ? focused : applyButton)->click();
+        });
     auto* const box = new QWidget;
     auto* const line = new QHBoxLayout(box);
     line->setContentsMargins({});

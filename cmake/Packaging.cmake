@@ -2,7 +2,7 @@
 # folder makes both; `./test --package` also tries them in a system of their own.
 set(CPACK_PACKAGE_NAME waymark)
 set(CPACK_PACKAGE_VENDOR "The Waymark developers")
-set(CPACK_PACKAGE_CONTACT "The Waymark developers <waymark@localhost.localdomain>")
+set(CPACK_PACKAGE_CONTACT "The Waymark developers <waymark@example.org>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -62,9 +62,9 @@ License: GPL-3+
 ")
 file(WRITE ${packages}/changelog "waymark (${PROJECT_VERSION}-1) stable; urgency=medium
 
-  * See CHANGELOG.md of the project.
+  * Initial release; CHANGELOG.md of the project tells what is in it.
 
- -- The Waymark developers <waymark@localhost.localdomain>  Wed, 25 Nov 2026 12:00:00 +0000
+ -- The Waymark developers <waymark@example.org>  Wed, 25 Nov 2026 12:00:00 +0000
 ")
 find_program(WAYMARK_GZIP gzip REQUIRED)
 execute_process(COMMAND ${WAYMARK_GZIP} -9nkf ${packages}/changelog COMMAND_ERROR_IS_FATAL ANY)

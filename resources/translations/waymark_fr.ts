@@ -1013,6 +1013,11 @@
         </translation>
     </message>
     <message>
+        <source>Arguments</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>As the Tile Map Service does</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4220,12 +4225,12 @@
     </message>
     <message>
         <source>Show the version</source>
-        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show this help</source>
-        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5236,6 +5241,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>Urgency</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <extracomment>src/cli/CommandLine.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -24,7 +24,11 @@ struct GlobalOptions {
 };
 
 void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
-    app.set_version_flag("--version", [] { return KTAboutText("waymark-cli"); });
+    app.get_formatter()->label("Usage", KTLocalizedString("Usage"));
+    app.get_formatter()->label("Positionals", KTLocalizedString("Arguments"));
+    app.set_help_flag("-h,--help", KTLocalizedString("Show this help"));
+    app.set_version_flag(
+        "--version", [] { return KTAboutText("waymark-cli"); }, KTLocalizedString("Show the version"));
     app.add_flag("--json", session.json,
                  KTLocalizedString("One JSON document on standard output instead of text"));
     app.add_option("--settings", options.settings,

@@ -35,7 +35,8 @@ std::string usageOf(const CLI::App& command, const std::string& before) {
     for (const CLI::Option* option : command.get_options())
         if (isShown(*option) && isPositional(*option))
             usage += (option->get_required() ? " " : " [") + option->get_name(true) +
-                     (option->get_items_expected_max() > 1 ? "..." : "") +
+                     (option->get_items_expected_max() > 1 && !option->get_name(true).ends_with("...") ? "..."
+                                                                                                       : "") +
                      (option->get_required() ? "" : "]");
     return usage;
 }

@@ -1,3 +1,4 @@
+#include "geotagging/KTAppTrackPickerController.h"
 #include "platform/common/KTLocalizedString.h"
 #include "tests/ui/WindowWorld.h"
 #include "ui/application/ApplicationLook.h"

@@ -151,6 +151,8 @@ TEST_F(SlideShowWindowTest, ShowsControlsAndPointerWhileThePointerMoves) {
     for (const char* name :
          {"Previous Photo", "Go On", "Next Photo", "Map", "Change Transitions", "End the Slide Show"})
         EXPECT_NE(button(name), nullptr) << name;
+    QTest::mouseClick(&window->bar(), Qt::LeftButton, {}, {2, 2}); // beside the buttons
+    EXPECT_EQ(show->currentIndex(), 0u);
     button("Next Photo")->click();
     EXPECT_TRUE(isShown("b.jpg"));
     button("Change Transitions")->click();

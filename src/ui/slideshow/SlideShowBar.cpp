@@ -19,6 +19,7 @@ SlideShowBar::SlideShowBar(SlideShowController& slideShow, QWidget* parent)
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_NoMousePropagation); // what misses a button is no click on the photo
     add("media-skip-backward", uiText("Previous Photo"), "←", [this] { show.previousPhoto(); });
     pause = add("media-playback-pause", uiText("Pause"), uiText("Space"),
                 [this] { show.setAutomaticallyAdvances(!show.automaticallyAdvances()); });

@@ -32,7 +32,10 @@ QSize SlideShowView::frameSize() const {
 }
 
 void SlideShowView::showSlide(Slide slide, KTTransitionStyle style) {
-    before = isInTransition() ? frame : canvas; // what is seen now, also amid another transition
+    if (!isInTransition())
+        before = canvas;
+    else if (!frame.isNull())
+        before = frame; // what is seen amid another transition
     shown = std::move(slide);
     canvas = canvasOf(shown);
     setAccessibleDescription(shown.title + ' ' + shown.text);

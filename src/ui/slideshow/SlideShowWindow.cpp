@@ -36,7 +36,6 @@ constexpr std::pair<int, Command> kKeys[] = {
     {Qt::Key_M, Command::Map},
     {Qt::Key_C, Command::Cycle},
     {Qt::Key_Escape, Command::End},
-    {Qt::Key_Q, Command::End},
 };
 
 } // namespace
@@ -53,14 +52,14 @@ SlideShowWindow::SlideShowWindow(SlideShowController& slideShow, KTOperationQueu
     panes->setStretchFactor(0, kPhotoShare);
     panes->setStretchFactor(1, kMapShare);
     panes->setHandleWidth(2);
+    panes->setMouseTracking(true);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(panes);
     photo->installEventFilter(this);
-    mapView->installEventFilter(this);
     controls->raise();
     idle.setSingleShot(true);
-    connect(&idle, &QTimer::timeout, this, [this] { setControlsShown(false); });
+    connect(&idle, &QTimer::timeout, this, [this] { setControlsShown(controls->underMouse()); });
     connect(&pictures, &SlideShowPictures::arrived, this, &SlideShowWindow::showPicture);
     connect(controls, &SlideShowBar::mapWanted, this, &SlideShowWindow::setMapShown);
     running = observeFor(this, show, "isRunning", [this] { show.isRunning() ? enter() : leave(); });
@@ -187,11 +186,8 @@ void SlideShowWindow::wheelEvent(QWheelEvent* event) {
         show.previousPhoto();
 }
 
-/// What is pressed on the map is the map's, what is moved is also the window's.
 bool SlideShowWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseMove)
-        mouseMoveEvent(static_cast<QMouseEvent*>(event));
-    else if (event->type() == QEvent::Resize && watched == photo && show.isRunning())
+    if (event->type() == QEvent::Resize && watched == photo && show.isRunning())
         QMetaObject::invokeMethod(this, &SlideShowWindow::wishForPictures, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
 }

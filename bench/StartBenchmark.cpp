@@ -43,7 +43,8 @@ public:
         qApp->installEventFilter(this);
     }
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() == QEvent::Paint && qobject_cast<QWidget*>(object)->isWindow() && whenPainted)
+        const auto* const widget = qobject_cast<const QWidget*>(object);
+        if (event->type() == QEvent::Paint && widget && widget->isWindow() && whenPainted)
             QTimer::singleShot(0, this, std::exchange(whenPainted, nullptr));
         return false;
     }

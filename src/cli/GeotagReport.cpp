@@ -107,6 +107,8 @@ void GeotagReport::printMessages(const GeotagOutcome& outcome) const {
         if (operation.resultType() == KTPhotoOperation::Failure ||
             (operation.resultType() == KTPhotoOperation::Warning && point))
             session.message(file + operation.resultDescription());
+    if (point && !point->caution().empty())
+        session.message(file + point->caution());
     if (dryRun && point && point->requestFailure())
         session.message(file + *point->requestFailure());
 }

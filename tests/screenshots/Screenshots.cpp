@@ -5,6 +5,7 @@
 #include "tests/ui/WindowWorld.h"
 #include "ui/application/ApplicationLook.h"
 
+#include <QIcon>
 #include <QPalette>
 #include <QStandardPaths>
 #include <cstdio>
@@ -24,10 +25,9 @@ void wait(int milliseconds) {
     QTest::qWait(milliseconds);
 }
 
-/// Few colours: the pictures are kept in the project's history.
+/// Packed as tightly as possible: the pictures are kept in the project's history.
 bool save(QWidget& window, const QString& file) {
-    const QImage picture = window.grab().toImage();
-    return picture.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither).save(file, "PNG", 0);
+    return window.grab().toImage().convertToFormat(QImage::Format_RGB888).save(file, "PNG", 0);
 }
 
 bool takePictures(const QString& folder, const QString& kind) {
@@ -62,6 +62,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
+    QIcon::setThemeSearchPaths(QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, "icons",
+                                                         QStandardPaths::LocateDirectory));
     applyLook(application);
     const QString folder = QString::fromLocal8Bit(argv[1]);
     if (!takePictures(folder, "light"))

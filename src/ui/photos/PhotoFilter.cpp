@@ -22,6 +22,16 @@ void PhotoFilter::setText(const QString& text) {
     words = folded(text).split(' ', Qt::SkipEmptyParts);
 }
 
+std::size_t PhotoFilter::prepare(const std::vector<std::shared_ptr<KTPhoto>>& photos, std::size_t from,
+                                 std::chrono::milliseconds time) {
+    if (words.isEmpty())
+        return photos.size();
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (from < photos.size() && std::chrono::steady_clock::now() < end)
+        textsOf(*photos[from++]);
+    return from;
+}
+
 bool PhotoFilter::matches(const std::shared_ptr<KTPhoto>& photo) {
     if (!isOfKind(photo))
         return false;

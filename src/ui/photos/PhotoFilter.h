@@ -21,6 +21,10 @@ public:
     void setKind(Kind kind) { wantedKind = kind; }
 
     bool letsAllThrough() const { return words.isEmpty() && wantedKind == Kind::All; }
+    /// Reads the texts that matches() needs of @p photos, from number @p from on, for some @p time at most;
+    /// the number of the first one that is left.
+    std::size_t prepare(const std::vector<std::shared_ptr<KTPhoto>>& photos, std::size_t from,
+                        std::chrono::milliseconds time);
     bool matches(const std::shared_ptr<KTPhoto>& photo);
     /// Its texts are looked up anew.
     void forget(const KTPhoto* photo) { texts.erase(photo); }

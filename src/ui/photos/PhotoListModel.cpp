@@ -8,17 +8,17 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds kListPause{60}, kFilterPause{120};
+constexpr std::chrono::milliseconds kListPause{60}, kFilterPause{120}, kFilterStep{12};
 
 } // namespace
 
 PhotoListModel::PhotoListModel(KTPhotoController& photoController)
     : controller(photoController),
       edits(std::make_unique<PhotoChangeCollector>([this] { announceEdits(); })) {
-    for (QTimer* timer : {&listTimer, &filterTimer}) {
+    for (QTimer* timer : {&listTimer, &filterTimer})
         timer->setSingleShot(true);
-        connect(timer, &QTimer::timeout, this, &PhotoListModel::synchronize);
-    }
+    connect(&listTimer, &QTimer::timeout, this, &PhotoListModel::synchronize);
+    connect(&filterTimer, &QTimer::timeout, this, [this] { filterFrom(0); });
     observation = controller.observe([this](const KTChange& change) {
         if (change.isPrior)
             return;
@@ -57,6 +57,16 @@ void PhotoListModel::setFilterKind(PhotoFilter::Kind kind) {
 
 void PhotoListModel::setFarFromTracks(PhotoFilter::IsFar question) {
     photoFilter.setIsFar(std::move(question));
+}
+
+/// A little at a time: the texts of many photos take a while to be read.
+void PhotoListModel::filterFrom(std::size_t photo) {
+    const auto all = controller.photos();
+    const std::size_t next = photoFilter.prepare(*all, photo, kFilterStep);
+    if (next < all->size() && !filterTimer.isActive())
+        QTimer::singleShot(0, this, [this, next] { filterFrom(next); });
+    else if (next >= all->size())
+        synchronize();
 }
 
 int PhotoListModel::rowOf(const KTPhoto* photo) const {

@@ -65,6 +65,7 @@ public:
     void movePhotosToRow(const Photos& dragged, int row);
 
 private:
+    void filterFrom(std::size_t photo);
     void adopt(Photos next);
     Photos filtered(const Photos& all);
     void deselectHidden();

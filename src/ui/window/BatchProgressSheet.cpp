@@ -4,6 +4,7 @@
 #include "ui/support/ObservationLink.h"
 #include "ui/support/UIText.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -19,6 +20,10 @@ BatchProgressSheet::BatchProgressSheet(KTBatchOperationController& runner, QWidg
     bar->setAccessibleName(uiText("Progress"));
     stop->setToolTip(uiText("Finishes the photo at work and leaves the others as they are"));
     connect(stop, &QPushButton::clicked, this, &BatchProgressSheet::reject);
+    auto* const quit = new QAction(this); // the sheet keeps the menu from being used
+    quit->setShortcut(QKeySequence("Ctrl+Q"));
+    connect(quit, &QAction::triggered, window, &QWidget::close);
+    addAction(quit);
     auto* const layout = new QVBoxLayout(this);
     layout->setSpacing(12);
     layout->addWidget(line);

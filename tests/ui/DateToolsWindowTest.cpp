@@ -161,7 +161,7 @@ TEST_F(DateToolsWindowTest, ShiftFieldsStepAsAClockAndTakeAnyNumber) {
 
     QDateTimeEdit& corrected = named<QDateTimeEdit>("Corrected date");
     corrected.setFocus();
-    corrected.setCurrentSection(QDateTimeEdit::MinuteSection);
+    corrected.setSelectedSection(QDateTimeEdit::MinuteSection);
     QTest::keyClicks(&corrected, "30");
     EXPECT_EQ(named<QSpinBox>("minutes").value(), 30);
 
@@ -184,7 +184,7 @@ TEST_F(DateToolsWindowTest, SetsADateAsFarAsItIsKnown) {
     QDateTimeEdit& date = named<QDateTimeEdit>("Date");
     EXPECT_EQ(date.text(), "2014-05");
     date.setFocus();
-    date.setCurrentSection(QDateTimeEdit::MonthSection);
+    date.setSelectedSection(QDateTimeEdit::MonthSection);
     QTest::keyClicks(&date, "07");
     settle();
     EXPECT_TRUE(previewRows()[1].startsWith("b.jpg (last) | Original Date | none | "))

@@ -5770,6 +5770,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>days</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>earlier</source>
         <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5845,6 +5850,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>hours</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>in front</source>
         <extracomment>src/ui/datetools/DatePreviewList.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5887,6 +5897,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>map, place names and magnetic field are there</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5982,6 +5997,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>saved</source>
         <extracomment>src/cli/DateCommands.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr double kWantedContrast = kReadableContrast + 0.1; // screens show colours in whole steps
+
 struct TextOnGround {
     QPalette::ColorRole text, ground;
 };
@@ -35,12 +37,12 @@ QColor mixed(const QColor& one, const QColor& other, double part) {
 /// @p text as it shows on @p ground, and as much nearer to black or white as it takes to be read there.
 QColor readable(const QColor& text, const QColor& ground) {
     QColor shown = mixed(ground, text, text.alphaF());
-    if (contrastRatio(shown, ground) >= kReadableContrast)
+    if (contrastRatio(shown, ground) >= kWantedContrast)
         return shown;
     const bool isLight = contrastRatio(Qt::white, ground) > contrastRatio(Qt::black, ground);
     for (double part = 0.05; part < 1; part += 0.05)
         if (const QColor nearer = mixed(shown, isLight ? Qt::white : Qt::black, part);
-            contrastRatio(nearer, ground) >= kReadableContrast)
+            contrastRatio(nearer, ground) >= kWantedContrast)
             return nearer;
     return isLight ? Qt::white : Qt::black;
 }
@@ -52,7 +54,7 @@ QPalette withReadableTexts(const QPalette& desktop) {
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
         for (const TextOnGround& pair : kTexts) {
             const QColor text = mended.color(group, pair.text), ground = mended.color(group, pair.ground);
-            if (contrastRatio(mixed(ground, text, text.alphaF()), ground) < kReadableContrast)
+            if (contrastRatio(mixed(ground, text, text.alphaF()), ground) < kWantedContrast)
                 mended.setColor(group, pair.text, readable(text, ground));
         }
     return mended;

@@ -189,7 +189,9 @@ TEST(AppControllerTest, CopiesAndPastesCoordinatesAndGoesFromPhotoToPhoto) {
     ASSERT_TRUE(world.waitForPhotos(3));
     const auto photos = world.manager.photos();
     auto latitude = [&](std::size_t index) { return photos->at(index)->decimalForKey("latitude"); };
-    world.app.selectNextPhoto();
+    ASSERT_TRUE(runEventLoopUntil([&] { return world.manager.selectedPhotoIndexes().size() == 3; }))
+        << "whoever begins finds the photos selected";
+    world.manager.setSelectedPhotoIndexes({0});
     world.ui.clipboard = "somewhere";
     world.app.pasteCoordinates();
     ASSERT_EQ(world.ui.asked.alerts.size(), 1u);

@@ -5,24 +5,29 @@
 
 #include <QCoreApplication>
 #include <atomic>
+#include <memory>
 #include <mutex>
 
+class FolderSettingsView;
+
 /// Copies the photos into a folder, as they are, or smaller, of another type or without their place. Two
-/// photos of one name get different ones, and nothing in the folder is replaced.
+/// photos of one name get different ones; what is done about files that are there already, the user decides.
 class FolderExport final : public KTPhotoExportPlugin {
     Q_DECLARE_TR_FUNCTIONS(FolderExport)
 
 public:
-    explicit FolderExport(KTPhotoExportManager& exportManager) : manager(exportManager) {}
+    explicit FolderExport(KTPhotoExportManager& exportManager);
+    ~FolderExport() override;
 
     bool wantsDestinationPathPrompt() const override { return true; }
     std::filesystem::path defaultDirectory() const override { return {}; }
     bool shouldSaveToIndividualFile() const override { return false; }
     std::string defaultFileName() const override { return {}; }
     std::vector<std::string> allowedFileTypes() const override { return {}; }
-    KTViewHandle settingsView() const override { return nullptr; }
-    KTViewHandle firstView() const override { return nullptr; }
-    KTViewHandle lastView() const override { return nullptr; }
+    /// None where the program has no windows.
+    KTViewHandle settingsView() const override;
+    KTViewHandle firstView() const override;
+    KTViewHandle lastView() const override;
 
     void shouldPrepareForExportToPath(const std::optional<std::filesystem::path>& path) override;
     bool canExportOnBackgroundThread() const override { return true; }
@@ -40,18 +45,23 @@ public:
     std::string concludingURL() const override;
 
 private:
-    void showProgress(std::size_t photosDone);
-    KTPhotoExportResult exportPhoto(const KTExportedPhoto& photo);
-    std::filesystem::path destinationFor(const KTExportedPhoto& photo) const;
-    void conclude(std::size_t exported, std::size_t failed, const std::string& reason);
+    void begin(KTExistingFiles answer, std::vector<std::filesystem::path> wanted);
+    void exportPhotos(std::atomic<std::size_t>& next);
+    KTPhotoExportResult exportPhoto(std::size_t index);
+    void showProgress();
+    void conclude();
 
     KTPhotoExportManager& manager;
+    std::unique_ptr<FolderSettingsView> view; // null without windows
     std::filesystem::path folder;
     FolderExportSettings settings;
+    std::vector<std::shared_ptr<const KTExportedPhoto>> photos;
+    std::vector<std::filesystem::path> destinations;
     std::atomic<bool> isCancelled = false;
 
     std::mutex mutex; // guards what follows; the host is never called under it
     std::string progressMessage, conclusion;
-    std::uint64_t done = 0;
+    std::string firstReason; // of the first failure
+    std::uint64_t done = 0, failed = 0;
     std::int64_t total = 0;
 };

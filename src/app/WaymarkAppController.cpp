@@ -13,6 +13,7 @@
 #include "collection/PhotoManagerMenuBarController.h"
 #include "datetools/KTDateToolsWindowController.h"
 #include "export/KTPhotoExportPluginMenuController.h"
+#include "export/KTPhotoExportProgressWindowController.h"
 #include "export/KTPluginManager.h"
 #include "export/slideshow/KTSlideShowExporterClass.h"
 #include "geotagging/KTAppTrackPickerController.h"
@@ -26,6 +27,21 @@
 
 #include <algorithm>
 
+namespace {
+
+/// The desktop as far as there is a screen.
+class ScreenDesktop final : public KTExportDesktop {
+public:
+    explicit ScreenDesktop(WaymarkUserInterface& shown) : screen(shown) {}
+    void openURL(const std::string& url) override { screen.openURL(url); }
+    void setClipboardText(const std::string& text) override { screen.setClipboardText(text); }
+
+private:
+    WaymarkUserInterface& screen;
+};
+
+} // namespace
+
 WaymarkAppController::WaymarkAppController(WaymarkUserInterface& screen, WaymarkModel shared)
     : userInterface(screen), model(std::move(shared)), self(std::make_shared<WaymarkAppController*>(this)) {}
 
@@ -37,6 +53,7 @@ WaymarkAppController::~WaymarkAppController() {
     trackPickerWindow.reset();
     operationLogWindow.reset();
     dateToolsWindow.reset();
+    exportListWindow.reset();
     menu.reset();
     if (mainWindow)
         closeMainWindow();
@@ -73,12 +90,24 @@ void WaymarkAppController::setupControllers() {
     mediaBrowser = std::make_unique<MediaBrowserWindowController>(
         userInterface.picturesFolder(), [this](const auto& paths) { importFilesAtPaths(paths); });
     mediaBrowserWindow = userInterface.makeMediaBrowserWindow(*mediaBrowser);
+    setupExportList();
     menu = std::make_unique<WaymarkMainMenu>(*this);
     menu->setup();
     importObservation = photoManager().observe([this](const KTChange& change) {
         if (change.key == "importInProgress" && !change.isPrior && !photoManager().importInProgress())
             KTRunOnThreadPool(KTReturnFreeMemory); // what reading took beside the photos
     });
+}
+
+/// Exports go on, and are recorded, also without a main window.
+void WaymarkAppController::setupExportList() {
+    exportDesktop = std::make_unique<ScreenDesktop>(userInterface);
+    exportHistory =
+        std::make_unique<KTPhotoExportOperationController>(KTExportHistoryStore::userFile(), *exportDesktop);
+    exportHistory->store().setPresenter(&userInterface.presenter());
+    exportList = std::make_unique<KTPhotoExportProgressWindowController>(*exportHistory);
+    exportList->setPhotoExportPluginManager(exportPlugins.get());
+    exportListWindow = userInterface.makeExportListWindow(*exportList);
 }
 
 void WaymarkAppController::showWaymarkWindow() {
@@ -137,7 +166,9 @@ void WaymarkAppController::afterwards(void (WaymarkAppController::*handler)()) {
 void WaymarkAppController::setupPlugins() {
     exportMenu = std::make_unique<KTPhotoExportPluginMenuController>();
     exportMenu->setPhotoExportPluginManager(exportPlugins.get());
+    exportMenu->setProgressWindowController(exportList.get());
     exportMenu->setup();
+    exportList->setup();
     exportPlugins->setPhotoController(mainWindow->photoController());
     exportPlugins->setTrackManager(&trackManager());
     exportPlugins->setMetadataController(&metadataFieldManager());
@@ -147,8 +178,11 @@ void WaymarkAppController::setupPlugins() {
 }
 
 void WaymarkAppController::loadPlugins() {
-    if (mainWindow)
-        plugins->loadAllPlugins();
+    if (!mainWindow)
+        return;
+    plugins->loadAllPlugins();
+    if (!std::exchange(hasLoadedHistory, true))
+        exportHistory->loadSavedExportOperations();
 }
 
 void WaymarkAppController::handleWaymarkWindowWillClose() {
@@ -174,22 +208,58 @@ WaymarkAppController::TerminateReply WaymarkAppController::applicationShouldTerm
     commitEditing();
     mediaBrowser->storeDefaults();
     const std::size_t unsaved = photoManager().unsavedPhotos()->size();
-    if (unsaved == 0)
+    const bool isExporting = exportPlugins->isExporting();
+    if (unsaved == 0 && !isExporting)
         return TerminateReply::Now;
-    if (isAskingToQuit)
+    if (std::exchange(isAskingToQuit, true))
         return TerminateReply::Later;
-    isAskingToQuit = true;
+    if (unsaved != 0)
+        askToDiscardChanges(unsaved);
+    else
+        askToStopExports();
+    return TerminateReply::Later;
+}
+
+/// For a question of which the first button goes on to the end, with @p handler.
+std::function<void(std::size_t)> WaymarkAppController::whenAnswered(void (WaymarkAppController::*handler)()) {
+    return [handler, alive = std::weak_ptr(self)](std::size_t button) {
+        const auto controller = alive.lock();
+        if (!controller)
+            return;
+        (*controller)->isAskingToQuit = false;
+        if (button == 0)
+            ((*controller)->*handler)();
+    };
+}
+
+void WaymarkAppController::askToDiscardChanges(std::size_t unsaved) {
     KTPresenter& asked = mainWindow ? *mainWindow->window() : userInterface.presenter();
     asked.presentAlert(
         {.message = KTLocalizedCount(
              "You have %d photos with unsaved changes. Are you sure you want to quit?", std::size_t(unsaved)),
          .informativeText = KTLocalizedString("If you don't save, all changes will be lost."),
          .buttons = {KTLocalizedString("Discard Changes & Quit"), KTLocalizedString("Cancel")},
-         .completion = [alive = std::weak_ptr(self)](std::size_t button) {
-             if (const auto controller = alive.lock())
-                 (*controller)->alertDidEnd(button);
-         }});
-    return TerminateReply::Later;
+         .completion = whenAnswered(&WaymarkAppController::endOrAskOn)});
+}
+
+void WaymarkAppController::askToStopExports() {
+    KTPresenter& asked = mainWindow ? *mainWindow->window() : userInterface.presenter();
+    asked.presentAlert(
+        {.message = KTLocalizedString("An export is in progress. Are you sure you want to quit?"),
+         .informativeText = KTLocalizedString("The photos that are finished stay."),
+         .buttons = {KTLocalizedString("Stop Export & Quit"), KTLocalizedString("Cancel")},
+         .completion = whenAnswered(&WaymarkAppController::endNow)});
+}
+
+void WaymarkAppController::endOrAskOn() {
+    if (!exportPlugins->isExporting())
+        return endNow();
+    isAskingToQuit = true;
+    askToStopExports();
+}
+
+void WaymarkAppController::endNow() {
+    userInterface.terminate();
 }
 
 void WaymarkAppController::quit() {
@@ -197,16 +267,11 @@ void WaymarkAppController::quit() {
         userInterface.terminate();
 }
 
-void WaymarkAppController::alertDidEnd(std::size_t returnCode) {
-    isAskingToQuit = false;
-    if (returnCode == 0)
-        userInterface.terminate();
-}
-
 void WaymarkAppController::applicationWillTerminate() {
     listingStop.request_stop();
     photoManager().setShouldCancelImport();
     trackManager().cancelImport();
+    exportPlugins->stopAllOperations();
     if (mainWindow)
         mainWindow->batchOperationController()->abortBatch();
     gazetteer().close();

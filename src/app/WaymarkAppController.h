@@ -5,12 +5,16 @@
 #include "platform/observing/KTObservable.h"
 
 #include <filesystem>
+#include <functional>
 #include <stop_token>
 #include <vector>
 
 class AppPreferencesWindowController;
 class KTCopiedTags;
+class KTExportDesktop;
+class KTPhotoExportOperationController;
 class KTPhotoExportPluginMenuController;
+class KTPhotoExportProgressWindowController;
 class MediaBrowserWindowController;
 class PhotoManagerMenuBarController;
 class WaymarkMainMenu;
@@ -60,6 +64,9 @@ public:
     MediaBrowserWindowController* mediaBrowserWindowController() const { return mediaBrowser.get(); }
     bool hasMediaBrowserWindow() const { return mediaBrowserWindow != nullptr; }
     KTPhotoExportPluginMenuController* photoExportPluginMenuController() const { return exportMenu.get(); }
+    KTPhotoExportProgressWindowController* photoExportProgressWindowController() const {
+        return exportList.get();
+    }
     /// The menu bar as data; from setupControllers() on.
     WaymarkMainMenu* mainMenu() const { return menu.get(); }
     // These exist while their windows are shown; null else. Observable.
@@ -154,7 +161,12 @@ private:
     void selectNeighbour(bool isNext);
     void afterwards(void (WaymarkAppController::*handler)());
     void loadPlugins();
-    void alertDidEnd(std::size_t returnCode);
+    void setupExportList();
+    void askToDiscardChanges(std::size_t unsaved);
+    void askToStopExports();
+    std::function<void(std::size_t)> whenAnswered(void (WaymarkAppController::*handler)());
+    void endOrAskOn();
+    void endNow();
     void importFiles(const Paths& paths, bool bundlesAreFiles);
     void selectFirstPhotos();
     void importDroppedFiles(const DroppedFiles& files);
@@ -170,6 +182,9 @@ private:
     std::unique_ptr<KTDateToolsWindowController> dateTools;
     std::unique_ptr<KTPhotoOperationWindowController> operationLog;
     std::unique_ptr<MediaBrowserWindowController> mediaBrowser;
+    std::unique_ptr<KTExportDesktop> exportDesktop;
+    std::unique_ptr<KTPhotoExportOperationController> exportHistory;
+    std::unique_ptr<KTPhotoExportProgressWindowController> exportList;
     std::unique_ptr<KTPhotoExportPluginMenuController> exportMenu;
     std::unique_ptr<WaymarkMainMenu> menu;
     std::unique_ptr<WaymarkWindowController> mainWindow;
@@ -177,10 +192,10 @@ private:
     std::unique_ptr<AppPreferencesWindowController> preferences;
     std::unique_ptr<KTCopiedTags> copiedTags;
     bool hasToldLibraryProblem = false, hasShownMediaBrowser = false, hasSelectedFirstPhotos = false,
-         isAskingToQuit = false;
+         isAskingToQuit = false, hasLoadedHistory = false;
     std::stop_source listingStop;
     Observation importObservation, mainWindowObservation, tagDetailsObservation, preferencesObservation;
     WaymarkUserInterface::Window tagDetailsWindow, operationLogWindow, trackPickerWindow, dateToolsWindow,
-        mediaBrowserWindow, preferencesWindow;
+        mediaBrowserWindow, exportListWindow, preferencesWindow;
     const std::shared_ptr<WaymarkAppController*> self; // for what is posted
 };

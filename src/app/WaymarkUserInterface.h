@@ -8,6 +8,7 @@ class AppPreferencesWindowController;
 class MediaBrowserWindowController;
 class KTAppTrackPickerController;
 class KTDateToolsWindowController;
+class KTPhotoExportProgressWindowController;
 class KTPhotoOperationWindowController;
 class KTSlideShowScreen;
 class KTTagDetailsWindowController;
@@ -49,6 +50,13 @@ public:
     /// Where slide shows are shown; null where there are none: they are not offered then.
     virtual KTSlideShowScreen* slideShowScreen() { return nullptr; }
 
+    /// Null where there is no such window.
+    virtual Window makeExportListWindow(KTPhotoExportProgressWindowController& /*controller*/) {
+        return nullptr;
+    }
+
+    /// Opens the address of a file, a folder or a page in the user's program for it.
+    virtual void openURL(const std::string& /*url*/) {}
     /// Shows name, version and licences.
     virtual void showAboutBox() = 0;
     /// Asks the user where there is no main window.

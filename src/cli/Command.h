@@ -36,6 +36,7 @@ void addZoneCommand(CLI::App& app, CommandList& commands);
 void addDateCommands(CLI::App& app, CommandList& commands); // shift, copy-date, set-date
 void addMapCommand(CLI::App& app, CommandList& commands);
 void addTracksCommands(CLI::App& app, CommandList& commands);
+void addExportCommand(CLI::App& app, CommandList& commands);
 void addDemoCommand(CLI::App& app, CommandList& commands);
 void addDoctorCommand(CLI::App& app, CommandList& commands);
 

@@ -124,6 +124,7 @@ int runCommandLine(int argc, char** argv) {
     addDateCommands(app, commands);
     addMapCommand(app, commands);
     addTracksCommands(app, commands);
+    addExportCommand(app, commands);
     addDemoCommand(app, commands);
     addDoctorCommand(app, commands);
     app.add_flag_function(

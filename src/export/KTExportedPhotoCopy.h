@@ -7,6 +7,10 @@ class KTExportedPhotoCopy final : public KTExportedPhoto {
 public:
     explicit KTExportedPhotoCopy(std::shared_ptr<KTPhoto> copy) : copied(std::move(copy)) {}
 
+    /// Before the copy is handed out: plug-ins do not see where the photo was taken or what place it shows.
+    void hideLocation() { isLocationHidden = true; }
+    bool hidesLocation() const { return isLocationHidden; }
+
     /// The record itself, for the host.
     const std::shared_ptr<KTPhoto>& photo() const { return copied; }
 
@@ -17,4 +21,5 @@ public:
 
 private:
     const std::shared_ptr<KTPhoto> copied;
+    bool isLocationHidden = false;
 };

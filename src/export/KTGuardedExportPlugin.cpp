@@ -19,8 +19,19 @@ auto KTGuardedExportPlugin::guarded(const char* name, Operation operation,
 }
 
 void KTGuardedExportPlugin::noteException(const char* operation) const {
+    const KTPluginError error = KTPluginError::ofCurrentException(origin, operation);
+    {
+        const std::lock_guard guard(failureMutex);
+        if (failureReason.empty())
+            failureReason = error.failureReason;
+    }
     thrown = true;
-    KTPluginError::ofCurrentException(origin, operation).log();
+    error.log();
+}
+
+std::string KTGuardedExportPlugin::failure() const {
+    const std::lock_guard guard(failureMutex);
+    return failureReason;
 }
 
 bool KTGuardedExportPlugin::wantsDestinationPathPrompt() const {

@@ -2,6 +2,7 @@
 #include "export/waymark/KTPhotoExportPlugin.h"
 
 #include <atomic>
+#include <mutex>
 
 /// A plug-in as the host calls it: whatever the plug-in throws is logged and ends here. After that nothing of
 /// it is called any more, and the answers are empty. Threads as for the plug-in itself.
@@ -12,6 +13,8 @@ public:
         : plugin(std::move(guardedPlugin)), origin(std::move(from)) {}
 
     bool hasThrown() const { return thrown; }
+    /// What it has thrown first, in a sentence for users; empty while it has not.
+    std::string failure() const;
 
     bool wantsDestinationPathPrompt() const override;
     std::filesystem::path defaultDirectory() const override;
@@ -42,5 +45,7 @@ private:
     const std::unique_ptr<KTPhotoExportPlugin> plugin;
     const std::string origin;
     mutable std::atomic<bool> thrown = false;
+    mutable std::mutex failureMutex; // guards what follows
+    mutable std::string failureReason;
     bool isLocked = false; // for the main thread, as the lock is
 };

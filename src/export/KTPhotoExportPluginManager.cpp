@@ -4,6 +4,7 @@
 #include "metadata/KTMetadataFieldManager.h"
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTLog.h"
+#include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/presentation/KTPresenter.h"
 
@@ -24,11 +25,22 @@ std::shared_ptr<KTPhotoExportPluginManager> KTPhotoExportPluginManager::make() {
 }
 
 KTPhotoExportPluginManager::~KTPhotoExportPluginManager() {
+    stopAllOperations();
+}
+
+void KTPhotoExportPluginManager::stopOperation(const Operation& operation) {
+    operation->cancel();
+    operation->plugin()->shouldCancelExport();
+}
+
+void KTPhotoExportPluginManager::stopAllOperations() {
+    std::vector<Operation> begun; // a plug-in may end its export at once
     for (const Export& unfinished : exports) {
         unfinished.operation->cancel();
         if (unfinished.hasBegun)
-            unfinished.operation->plugin()->shouldCancelExport();
+            begun.push_back(unfinished.operation);
     }
+    std::ranges::for_each(begun, stopOperation);
 }
 
 bool KTPhotoExportPluginManager::wantsPluginWithClass(const PluginClass& pluginClass) {
@@ -84,6 +96,7 @@ void KTPhotoExportPluginManager::shouldBeginExportProcessWithPlugin(const Plugin
         return;
     }
     operation->setPlugin(std::make_unique<KTGuardedExportPlugin>(std::move(plugin), pluginClass->name()));
+    operation->setPluginClass(pluginClass);
     operation->setController(weak_from_this());
     exports.push_back({operation});
     ask(operation);
@@ -91,6 +104,7 @@ void KTPhotoExportPluginManager::shouldBeginExportProcessWithPlugin(const Plugin
 
 KTPhotoExportPluginManager::Operation KTPhotoExportPluginManager::newOperation() const {
     Operation operation = KTPhotoExportManagerOperation::make();
+    operation->setRequestedOptions(requestedOptions);
     setPhotosAndTracks(*operation);
     if (metadataController != nullptr) {
         std::vector<KTExportedFieldGroup> groups;
@@ -143,8 +157,11 @@ void KTPhotoExportPluginManager::presentSavePanelForManager(const Operation& ope
     panel.buttonText = KTLocalizedString("Export");
     panel.directory = plugin.defaultDirectory();
     panel.accessoryView = plugin.settingsView();
-    panel.completion = [manager = weak_from_this(), operation](const auto& paths) {
+    const bool isFile = panel.kind == KTFilePanel::Kind::SaveFile;
+    panel.completion = [manager = weak_from_this(), operation, isFile](const auto& paths) {
         const auto self = manager.lock();
+        if (self && !paths.empty() && isFile)
+            operation->allowReplacing({paths.back()}); // the question has asked for that
         if (self && !paths.empty())
             self->prepare(operation, paths.back());
         else if (self)
@@ -208,7 +225,36 @@ void KTPhotoExportPluginManager::enqueue(Export& begun) {
                     self->end(finished);
             });
         });
+    const std::vector<std::size_t> index = {inBackground.size()};
+    willChange("backgroundOperations", KTChange::Kind::Insertion, index);
+    inBackground.push_back(begun.operation);
+    didChange("backgroundOperations", KTChange::Kind::Insertion, index);
     queue.addOperation(begun.operation);
+}
+
+void KTPhotoExportPluginManager::askAboutExistingFiles(const std::vector<std::filesystem::path>& existing,
+                                                       std::function<void(KTExistingFiles)> answer) {
+    if (existingFiles || presenter == nullptr)
+        return answer(existingFiles.value_or(KTExistingFiles::Cancel));
+    const std::string first = KTValidUTF8(existing.front().filename().string());
+    presenter->presentAlert(
+        {.message = existing.size() == 1
+                        ? KTStringWithFormat(
+                              KTLocalizedString("“%@” exists already. Do you want to replace it?"), {first})
+                        : KTStringWithFormat(
+                              KTLocalizedString("%d files exist already. Do you want to replace them?"),
+                              {std::to_string(existing.size())}),
+         .informativeText =
+             existing.size() == 1
+                 ? std::string()
+                 : KTStringWithFormat(KTLocalizedString("“%@” is the first of them."), {first}),
+         .buttons = {KTLocalizedString("Keep Both"), KTLocalizedString("Replace"),
+                     KTLocalizedString("Cancel")},
+         .completion = [answer = std::move(answer)](std::size_t button) {
+             answer(button == 0   ? KTExistingFiles::KeepBoth
+                    : button == 1 ? KTExistingFiles::Replace
+                                  : KTExistingFiles::Cancel);
+         }});
 }
 
 void KTPhotoExportPluginManager::schedule(const Operation& operation) {
@@ -225,6 +271,13 @@ void KTPhotoExportPluginManager::end(Operation operation) {
     operation->cancel();
     if (mainOperation == operation)
         mainOperation.reset();
+    if (const auto listed = std::ranges::find(inBackground, operation); listed != inBackground.end()) {
+        const std::vector<std::size_t> index = {static_cast<std::size_t>(listed - inBackground.begin())};
+        willChange("backgroundOperations", KTChange::Kind::Removal, index);
+        inBackground.erase(listed);
+        didChange("backgroundOperations", KTChange::Kind::Removal, index);
+    }
+    // Looked for only now: whoever heard of this may have begun another one.
     const auto place = find(operation);
     if (place == exports.end())
         return;

@@ -33,6 +33,10 @@ public:
     void setMetadataController(const KTMetadataFieldManager* catalogue) { metadataController = catalogue; }
     void setTrackManager(KTTrackManager* tracks) { trackManager = tracks; }
     void setPresenter(KTPresenter* whoAsks) { presenter = whoAsks; }
+    /// What is done about files that are there already; asked of the user where nothing is set.
+    void setExistingFiles(std::optional<KTExistingFiles> decided) { existingFiles = decided; }
+    /// Goes before the settings of the plug-ins.
+    void setRequestedOptions(KTPhotoExportOptions options) { requestedOptions = std::move(options); }
     void setPrimaryWindow(KTViewHandle window) { primaryWindow = window; }
 
     /// In the order of acceptance, those of the program behind those of bundles.
@@ -50,12 +54,25 @@ public:
     /// The export that runs, or is about to, on the main thread; null for none.
     const Operation& mainQueueOperation() const { return mainOperation; }
 
+    /// Exports begun that run, or wait for their turn, on another thread; announces insertions and removals
+    /// under "backgroundOperations".
+    const std::vector<Operation>& backgroundOperations() const { return inBackground; }
+    /// Whether any export has begun and not ended.
+    bool isExporting() const { return mainOperation || !inBackground.empty(); }
+    /// Asks @p operation, which may not have its turn yet, to end.
+    static void stopOperation(const Operation& operation);
+    /// Asks every export to end; returns at once.
+    void stopAllOperations();
+
     // What a plug-in asks for through its operation. Ignored for exports that are over.
     /// Queues or schedules the run; the second and later calls for an export are ignored, and it ends here
     /// when another export runs on the main thread that it needs.
     void shouldBeginExportForManager(const Operation& operation);
     void shouldCancelExportForManager(const Operation& operation) { end(operation); }
     void shouldFinishExportForManager(const Operation& operation) { end(operation); }
+    /// Asks the user about @p existing files; for an operation.
+    void askAboutExistingFiles(const std::vector<std::filesystem::path>& existing,
+                               std::function<void(KTExistingFiles)> answer);
 
 private:
     struct Export {
@@ -79,7 +96,10 @@ private:
 
     std::vector<PluginClass> classes;
     std::list<Export> exports; // from the choice of the plug-in to their end
+    std::vector<Operation> inBackground;
     Operation mainOperation;
+    std::optional<KTExistingFiles> existingFiles;
+    KTPhotoExportOptions requestedOptions;
     KTPhotoController* photoController = nullptr;
     const KTMetadataFieldManager* metadataController = nullptr;
     KTTrackManager* trackManager = nullptr;

@@ -22,7 +22,7 @@ TEST_F(BundleExportTest, ALibraryGetsPhotosAndTracksThroughThePublicHeadersAlone
     bundle("program/Writer.ktplugin", 1);
     EXPECT_EQ(loadAll(), "");
     EXPECT_EQ(exportWithBundle(), "");
-    const std::string cannot = "This version of Waymark cannot export photos yet.";
+    const std::string cannot = "The file there is a photo of your collection.";
     const auto& catalogue = KTMetadataFieldManager::sharedMetadataFieldManager();
     EXPECT_EQ(contentOf(folder / "photos.txt"),
               "IMG_1.jpg|public.jpeg|caption 1|1401624000000|46|0|" + cannot +
@@ -74,7 +74,7 @@ TEST_F(BundleExportTest, ALibraryThatCannotBeUsedIsNotOfferedAnyMore) {
     const Case cases[] = {
         {"TestPlugin", "factory", "", "It failed in initWithAPIManager" + text, 6},
         {"TestPlugin", "initWithAPIManager", "", "It failed in initWithAPIManager" + text, 6},
-        {"PluginOfAnotherVersion", "", ": waymark.PhotoExportPluginFactory/2",
+        {"PluginOfAnotherVersion", "", ": waymark.PhotoExportPluginFactory/1",
          "Its library was made for another version of Waymark.", 3},
     };
     int number = 0;

@@ -22,7 +22,7 @@ protected:
         return "00000000-0000-4000-8000-00000000000" + std::to_string(number);
     }
     static std::string manifest(int number, const std::string& name,
-                                const std::string& rest = R"("interface":1)") {
+                                const std::string& rest = R"("interface":2)") {
         return R"({"uuid":")" + uuid(number) + R"(","name":")" + name + R"(","icon":"icon.png",)" +
                R"("library":"code.so",)" + rest + "}";
     }

@@ -74,11 +74,11 @@ TEST_F(PluginLoadingTest, NamesWhatCannotBeUsedInTheLogAndGoesOn) {
         {"B", "{\"uuid\":", damaged, 2},
         {"C", "[]", damaged, 2},
         {"D", manifest(1, "D", R"("interface":"1")"), damaged, 2},
-        {"E", manifest(1, "", R"("interface":1)"), damaged, 2},
-        {"F", manifest(1, "F", R"("library":"../code.so","interface":1)"), damaged, 2},
-        {"G", manifest(1, "G", R"("library":"/lib/libc.so.6","interface":1)"), damaged, 2},
-        {"H", manifest(1, "H", R"("uuid":"mine","interface":1)"), damaged, 2},
-        {"I", manifest(1, "I", R"("interface":2)"), "It was made for another version of Waymark.", 3},
+        {"E", manifest(1, "", R"("interface":2)"), damaged, 2},
+        {"F", manifest(1, "F", R"("library":"../code.so","interface":2)"), damaged, 2},
+        {"G", manifest(1, "G", R"("library":"/lib/libc.so.6","interface":2)"), damaged, 2},
+        {"H", manifest(1, "H", R"("uuid":"mine","interface":2)"), damaged, 2},
+        {"I", manifest(1, "I", R"("interface":1)"), "It was made for another version of Waymark.", 3},
         {"J", manifest(1, "J"), "Its library is missing.", 4},
     };
     std::string expected;

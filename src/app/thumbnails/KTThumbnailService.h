@@ -1,7 +1,7 @@
 #pragma once
-#include "app/thumbnails/RawPreview.h"
 #include "app/thumbnails/ThumbnailFileCache.h"
 #include "platform/observing/KTObservable.h"
+#include "platform/pictures/RawPicture.h"
 
 #include <condition_variable>
 #include <list>

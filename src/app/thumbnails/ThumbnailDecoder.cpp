@@ -1,25 +1,17 @@
 #include "app/thumbnails/ThumbnailDecoder.h"
 
-#include "app/thumbnails/EmbeddedPreview.h"
 #include "platform/common/KTLocalizedString.h"
+#include "platform/pictures/EmbeddedPreview.h"
+#include "platform/pictures/PictureFile.h"
 
-#include <QFile>
 #include <QImageReader>
 #include <QTransform>
 #include <cmath>
-#include <fcntl.h>
 
 namespace {
 
-constexpr int kAllocationLimit = 1024;    // megabytes of one decoded picture
 constexpr double kSameProportions = 1.02; // previews with black bars have others than their picture
 constexpr int kFlipOfOrientation[] = {0, 0, 1, 3, 2, 4, 6, 7, 5}; // of EXIF orientations 1…8
-
-/// Names need not be UTF-8, so the file is opened by its bytes.
-bool open(QFile& into, const std::filesystem::path& file) {
-    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    return descriptor >= 0 && into.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-}
 
 QSize fitted(const QSize& size, int edge) {
     return size.width() <= edge && size.height() <= edge
@@ -49,7 +41,7 @@ QImage previewInJPEG(QFile& file, int edge) {
 }
 
 DecodedPicture decodeWithReader(QFile& file, int edge) {
-    QImageReader::setAllocationLimit(kAllocationLimit);
+    QImageReader::setAllocationLimit(kPictureAllocationLimit);
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
@@ -74,7 +66,7 @@ DecodedPicture decodePicture(const std::filesystem::path& path, int edge) {
         return result;
     }
     QFile file;
-    if (!open(file, path))
+    if (!openPictureFile(file, path))
         return {{}, KTLocalizedString("The file cannot be read.")};
     if (const QImage preview = previewInJPEG(file, edge); !preview.isNull())
         return {fitted(preview, edge), {}};

@@ -1,6 +1,6 @@
 #pragma once
-#include "app/thumbnails/RawPreview.h"
 #include "app/thumbnails/ThumbnailSize.h"
+#include "platform/pictures/RawPicture.h"
 
 /// The picture in @p file, turned as the file says and at most @p size large, from an embedded preview where
 /// one is large enough; or why there is none. Any thread.

@@ -27,6 +27,7 @@ public:
     /// The file's type identifier ("public.jpeg"); empty for an unknown one.
     virtual std::string uti() const = 0;
     /// The value of a field of KTPhotoExportManager::metadataFields, edits that are not saved included; none
-    /// for an unknown key.
+    /// for an unknown key. Of a photo whose place the user keeps to himself (near a place that no export may
+    /// tell, or in an export without locations), position and place names are none.
     virtual KTExportedValue valueForKey(std::string_view key) const = 0;
 };

@@ -17,7 +17,8 @@ public:
     virtual ~KTExportedTrack() = default;
 
     virtual std::string name() const = 0;
-    /// Read from the track library at each call, so ask once; points without a position are left out. Empty
-    /// for a track that was deleted meanwhile.
+    /// Read from the track library at each call, so ask once; points without a position are left out, and
+    /// those near a place that no export may tell, where a segment is parted. Empty for a track that was
+    /// deleted meanwhile.
     virtual std::vector<std::vector<KTExportedPoint>> segments() const = 0;
 };

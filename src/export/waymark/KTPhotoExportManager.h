@@ -2,6 +2,7 @@
 #include "KTExportedTrack.h"
 #include "KTPhotoExportInterface.h"
 
+#include <functional>
 #include <memory>
 
 /// A field of a photo's metadata.
@@ -33,13 +34,25 @@ public:
     /// The main window, for windows of the plug-in's own; null where there is none.
     virtual KTViewHandle window() const = 0;
 
-    /// Writes @p photo, which must be one of `photos`, with its metadata, to the file @p toPath, replacing
-    /// what is there. Takes its time: for performExport.
+    /// What the user has asked for elsewhere than in the plug-in's settings, which it goes before; empty for
+    /// nothing. exportPhoto follows KTExcludeLocationOption of it in any case.
+    virtual KTPhotoExportOptions requestedOptions() const = 0;
+    /// Asks the user what to do about those of @p destinations that are there already, for
+    /// shouldPrepareForExportToPath. @p answer is called once, on the main thread: at once, with Replace,
+    /// when none is there. After Replace, exportPhoto may replace them. Main thread.
+    virtual void askAboutExistingFiles(const std::vector<std::filesystem::path>& destinations,
+                                       std::function<void(KTExistingFiles)> answer) = 0;
+
+    /// Writes @p photo, which must be one of `photos`, with its metadata, edits that are not saved and those
+    /// of its sidecar included, to the file @p toPath: the whole file or none, and none in the place of
+    /// another file, unless the user has chosen that file or askAboutExistingFiles allows it. Nor are photos
+    /// of the collection ever replaced. Pictures that are made anew are stored upright and keep their colour
+    /// profile. A photo without location is read back; it is not exported where a trace of the place is left.
     ///
-    /// This version of the host cannot do it yet: it writes nothing, and the result says so.
+    /// Takes its time: for performExport. Several threads may export at once, each photo on one.
     virtual KTPhotoExportResult exportPhoto(const KTExportedPhoto& photo, const std::filesystem::path& toPath,
                                             const KTPhotoExportOptions& withOptions) = 0;
-    /// The type identifiers that exportPhoto can write; none in this version.
+    /// The type identifiers of the pictures that exportPhoto can make ("public.jpeg" first).
     virtual std::vector<std::string> validExportFormats() const = 0;
     /// The usual file name extension of a type identifier, without dot; empty for an unknown one.
     virtual std::string fileExtensionForUTI(std::string_view uti) const = 0;

@@ -4,8 +4,8 @@
 #include <QtPlugin>
 
 /// Names the interfaces and their version inside a library, where it is read without running the library.
-#define KTPhotoExportPluginFactoryIID "waymark.PhotoExportPluginFactory/1"
-static_assert(KTPhotoExportInterfaceVersion == 1, "the identifier carries the version");
+#define KTPhotoExportPluginFactoryIID "waymark.PhotoExportPluginFactory/2"
+static_assert(KTPhotoExportInterfaceVersion == 2, "the identifier carries the version");
 
 /// What a bundle's library gives the host: the root object of a Qt plug-in. Made when the plug-in is first
 /// chosen, on the main thread; lives to the end of the process.

@@ -89,6 +89,9 @@ constexpr KTSetting kSettings[] = {
     {"slideshowPlugin.autoZoomPhotoStyle", Unsigned, "2"},
     {"slideshowPlugin.shouldShowNearbyTracks", Boolean, "true"},
 
+    // Exports: "LATITUDE LONGITUDE METRES NAME" of each place that none may tell
+    {"exportPrivacyZones", TextList, ""},
+
     // Windows
     {"defaultAutoZoomRecentTrackImportsStyle", Unsigned, "2"},
     {"defaultAutoZoomPhotoSelectionStyle", Unsigned, "1"},

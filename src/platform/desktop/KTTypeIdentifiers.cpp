@@ -2,6 +2,8 @@
 
 #include "platform/common/KTText.h"
 
+#include <algorithm>
+
 namespace {
 
 // clang-format off
@@ -36,7 +38,20 @@ constexpr KTTypeIdentifier kTypeIdentifiers[] = {
 };
 // clang-format on
 
+const KTTypeIdentifier* firstWith(std::string_view value, std::string_view KTTypeIdentifier::*member) {
+    const auto type = std::ranges::find(kTypeIdentifiers, value, member);
+    return value.empty() || type == std::end(kTypeIdentifiers) ? nullptr : type;
+}
+
 } // namespace
+
+const KTTypeIdentifier* KTTypeWithIdentifier(std::string_view identifier) {
+    return firstWith(identifier, &KTTypeIdentifier::identifier);
+}
+
+const KTTypeIdentifier* KTTypeWithMIMEType(std::string_view mimeType) {
+    return firstWith(mimeType, &KTTypeIdentifier::mimeType);
+}
 
 std::span<const KTTypeIdentifier> KTTypeIdentifiers() {
     return kTypeIdentifiers;

@@ -16,6 +16,11 @@ struct KTTypeIdentifier {
 /// first. Types for which no identifier, or more than one, is in general use are left out.
 std::span<const KTTypeIdentifier> KTTypeIdentifiers();
 
+/// The row of the usual extension of @p identifier; null for one that the table does not know. Any thread.
+const KTTypeIdentifier* KTTypeWithIdentifier(std::string_view identifier);
+/// The same for a MIME type ("image/jpeg").
+const KTTypeIdentifier* KTTypeWithMIMEType(std::string_view mimeType);
+
 /// The uniform type identifier that the extension of @p file, in any letter case, stands for; nothing for one
 /// that the table does not know. The file need not exist. Any thread.
 std::optional<std::string> KTTypeIdentifierForPath(const std::filesystem::path& file);

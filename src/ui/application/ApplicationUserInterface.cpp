@@ -2,6 +2,7 @@
 
 #include "geotagging/KTAppTrackPickerController.h"
 #include "ui/datetools/DateToolsWindow.h"
+#include "ui/export/ExportListWindow.h"
 #include "ui/window/MainWindow.h"
 #include "ui/windows/AboutBox.h"
 #include "ui/windows/MediaBrowserWindow.h"
@@ -12,9 +13,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QStandardPaths>
+#include <QUrl>
 #include <QVersionNumber>
 
 ApplicationUserInterface::ApplicationUserInterface()
@@ -60,6 +63,15 @@ ApplicationUserInterface::makeMediaBrowserWindow(MediaBrowserWindowController& c
 std::filesystem::path ApplicationUserInterface::picturesFolder() const {
     return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
         .toStdString();
+}
+
+WaymarkUserInterface::Window
+ApplicationUserInterface::makeExportListWindow(KTPhotoExportProgressWindowController& controller) {
+    return std::make_unique<ExportListWindow>(controller);
+}
+
+void ApplicationUserInterface::openURL(const std::string& url) {
+    QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(url)));
 }
 
 void ApplicationUserInterface::showAboutBox() {

@@ -18,6 +18,8 @@ public:
     Window makeMediaBrowserWindow(MediaBrowserWindowController& controller) override;
     std::filesystem::path picturesFolder() const override;
     KTSlideShowScreen* slideShowScreen() override { return &slideShows; }
+    Window makeExportListWindow(KTPhotoExportProgressWindowController& controller) override;
+    void openURL(const std::string& url) override;
     void showAboutBox() override;
     KTPresenter& presenter() override { return *alone; }
     std::string clipboardText() override;

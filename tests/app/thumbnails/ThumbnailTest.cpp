@@ -1,5 +1,5 @@
-#include "app/thumbnails/EmbeddedPreview.h"
 #include "app/thumbnails/ThumbnailDecoder.h"
+#include "platform/pictures/EmbeddedPreview.h"
 #include "tests/support/TestPhotos.h"
 
 #include <QBuffer>

@@ -54,7 +54,7 @@ public:
                 << std::get<KTExportedInstant>(date).time_since_epoch().count() << '|'
                 << std::get<double>(photo->valueForKey("latitude")) << '|'
                 << photo->valueForKey("unknown").index() << '|'
-                << manager.exportPhoto(*photo, file, {}).reason << '\n';
+                << manager.exportPhoto(*photo, photo->path(), {}).reason << '\n';
         }
         for (const auto& track : manager.tracks())
             for (const auto& segment : track->segments())

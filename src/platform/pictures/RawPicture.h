@@ -16,6 +16,10 @@ bool isRawFileName(const std::filesystem::path& file);
 /// is too small for @p edge pixels, the raw data developed at half size. Any thread.
 DecodedPicture previewOfRawFile(const std::filesystem::path& file, int edge);
 
+/// The same for work on the picture: the camera's one where it has @p edge pixels, or as many as the sensor,
+/// on its longer side, else the developed raw data; never one that is too small. Any thread.
+DecodedPicture pictureOfRawFile(const std::filesystem::path& file, int edge);
+
 /// @p image, stored as a sensor saw it, turned by @p flip: bits 1 and 2 mirror it left to right and top to
 /// bottom, then bit 4 swaps its axes.
 QImage turnedByFlip(const QImage& image, int flip);

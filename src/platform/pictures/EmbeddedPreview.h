@@ -16,3 +16,8 @@ inline constexpr qint64 kJPEGHeadLength = 160 * 1024;
 /// The preview in the first bytes of a JPEG file, kJPEGHeadLength of them or the whole file; nothing where
 /// there is none or where it is damaged. Any thread.
 std::optional<EmbeddedPreview> embeddedPreviewOfJPEG(const QByteArray& head);
+
+/// Whether an EXIF block (a TIFF structure) anywhere in @p file, be it that of an embedded preview, has a
+/// directory of GPS tags that says anything but its own version. @p file is the whole of a JPEG, TIFF, PNG or
+/// raw file. Any thread.
+bool tellsPosition(const QByteArray& file);

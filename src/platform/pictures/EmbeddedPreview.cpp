@@ -1,10 +1,11 @@
-#include "app/thumbnails/EmbeddedPreview.h"
+#include "platform/pictures/EmbeddedPreview.h"
 
 #include <cstdint>
 
 namespace {
 
-constexpr std::uint16_t kOrientation = 0x0112, kPreviewOffset = 0x0201, kPreviewLength = 0x0202;
+constexpr std::uint16_t kOrientation = 0x0112, kGPSDirectory = 0x8825, kGPSVersion = 0,
+                        kPreviewOffset = 0x0201, kPreviewLength = 0x0202;
 
 /// Numbers of a TIFF structure; reads beyond the end give 0.
 class TIFFBytes {
@@ -32,6 +33,8 @@ private:
     const QByteArray bytes;
     const bool isLittle;
 };
+
+constexpr int kMostDirectories = 32; // a damaged chain may go in a circle
 
 struct Directory {
     std::uint32_t orientation = 0, previewOffset = 0, previewLength = 0, next = 0;
@@ -73,6 +76,23 @@ std::optional<EmbeddedPreview> previewOfEXIF(const QByteArray& block) {
     return result.jpeg.startsWith("\xff\xd8") ? std::optional(result) : std::nullopt;
 }
 
+bool hasPosition(const TIFFBytes& tiff) {
+    std::uint32_t directory = tiff.number32(4);
+    for (int count = 0; directory != 0 && count < kMostDirectories; ++count) {
+        const std::uint32_t entries = tiff.number16(directory);
+        for (std::uint32_t i = 0; i < entries; ++i) {
+            const std::uint32_t entry = directory + 2 + 12 * i;
+            if (tiff.number16(entry) != kGPSDirectory)
+                continue;
+            const std::uint32_t gps = tiff.number32(entry + 8), tags = tiff.number16(gps);
+            if (tags > 1 || (tags == 1 && tiff.number16(gps + 2) != kGPSVersion))
+                return true;
+        }
+        directory = tiff.number32(directory + 2 + 12 * entries);
+    }
+    return false;
+}
+
 bool isFrameHeader(unsigned char marker) {
     return marker >= 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8 && marker != 0xcc;
 }
@@ -96,4 +116,16 @@ std::optional<EmbeddedPreview> embeddedPreviewOfJPEG(const QByteArray& head) {
         at += 2 + length;
     }
     return result;
+}
+
+bool tellsPosition(const QByteArray& file) {
+    if (const TIFFBytes whole(file); whole.isTIFF() && hasPosition(whole))
+        return true;
+    const QByteArray mark("Exif\0\0", 6);
+    for (qsizetype at = file.indexOf(mark); at >= 0; at = file.indexOf(mark, at + 1)) {
+        const TIFFBytes block(QByteArray::fromRawData(file.constData() + at + 6, file.size() - at - 6));
+        if (block.isTIFF() && hasPosition(block))
+            return true;
+    }
+    return false;
 }

@@ -45,8 +45,7 @@ struct FakeHost final : KTPhotoExportManager {
             return {false, "it is broken"};
         if (existing == KTExistingFiles::Skip && fs::exists(toPath))
             return {false, "it is there"};
-        if (existing == KTExistingFiles::KeepBoth)
-            EXPECT_FALSE(fs::exists(toPath));
+        EXPECT_TRUE(existing != KTExistingFiles::KeepBoth || !fs::exists(toPath));
         std::ofstream(toPath) << photo.path().string();
         return {true};
     }

@@ -28,9 +28,9 @@ protected:
         image.setColorSpace(colors);
         const fs::path file = folder / name;
         EXPECT_TRUE(image.save(QString::fromStdString(file)));
-        if (!tags.empty())
-            EXPECT_TRUE(
-                KTExifTool::sharedExifTool().setValuesForKeysWithDictionary(tags, file).operationDidSucceed);
+        EXPECT_TRUE(
+            tags.empty() ||
+            KTExifTool::sharedExifTool().setValuesForKeysWithDictionary(tags, file).operationDidSucceed);
         return file;
     }
 
@@ -168,9 +168,9 @@ TEST_F(PhotoExportTest, WithoutLocationNothingOfThePlaceRemains) {
              {KTPhotoExportOptions{},
               {{KTImageSizeOption, KTImageSize{32, 32}}, {KTImageTypeOption, "public.jpeg"}}}) {
             options[KTExcludeLocationOption] = true;
-            const auto out =
-                std::to_string(++number) + (options.size() > 1 ? ".jpg" : fs::path(name).extension());
-            const auto result = exportFile(file, out.string(), options);
+            const auto out = std::to_string(++number) +
+                             (options.size() > 1 ? ".jpg" : fs::path(name).extension().string());
+            const auto result = exportFile(file, out, options);
             ASSERT_TRUE(result) << name << ' ' << result.reason;
             const auto tags = tagsOf(folder / out);
             for (const auto& [key, value] : tags)

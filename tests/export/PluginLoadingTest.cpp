@@ -60,7 +60,7 @@ TEST_F(PluginLoadingTest, FindsTheBundlesThatAreBuiltWithTheProgram) {
     unsetenv("WAYMARK_PLUGINS");
     EXPECT_EQ(KTPluginManager::builtInPluginFolderPath(), WAYMARK_BUILT_PLUGINS);
     EXPECT_EQ(loadAll(), "");
-    EXPECT_EQ(names(), "Folder ");
+    EXPECT_EQ(names(), "Folder Map Page ");
 }
 
 TEST_F(PluginLoadingTest, NamesWhatCannotBeUsedInTheLogAndGoesOn) {

@@ -125,8 +125,9 @@ TEST(Pictures, PositionsInEmbeddedBlocksAreSeen) {
             QByteArray(1, char(tags)) + QByteArray(1, '\0') + QByteArray(1, char(tag)) + QByteArray(40, '\0');
         return tiff;
     };
-    const QByteArray picture(
-        "\xff\xd8\xff\xe1..JFIF picture data and then a preview \xff\xd8\xff\xe1..Exif\0\0", 62);
+    constexpr char kPicture[] =
+        "\xff\xd8\xff\xe1..JFIF picture data and then a preview \xff\xd8\xff\xe1..Exif\0\0";
+    const QByteArray picture(kPicture, sizeof kPicture - 1);
     EXPECT_TRUE(tellsPosition(picture + block(2, 0)));
     EXPECT_TRUE(tellsPosition(picture + block(1, 2)));
     EXPECT_TRUE(tellsPosition(block(2, 1)));

@@ -10,7 +10,7 @@ function(run)
     endif()
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${folder}/installed --component plugin-headers)
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${folder}/installed --component waymark-dev)
 foreach(plugin folder mappage)
     # Away from the project, so that nothing beside the bundle's own files is found.
     file(COPY ${SOURCE}/${plugin} DESTINATION ${folder}/source)

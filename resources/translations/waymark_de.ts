@@ -35,12 +35,17 @@
     </message>
     <message>
         <source>"%@" is not a size: WIDTHxHEIGHT in pixels is expected</source>
-        <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>"%@" is not a time zone: +02:00, Z or Area/City is expected</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>"%@" is not a type of pictures</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -236,6 +241,11 @@
     <message>
         <source>%@ does not accept connections.</source>
         <extracomment>src/platform/network/HTTPFailureText.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ exists already (--overwrite replaces it)</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -439,6 +449,14 @@
     <message numerus="yes">
         <source>%d could not be saved.</source>
         <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d files exist already. Do you want to replace them?</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -734,6 +752,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>A file of this name exists already.</source>
+        <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A group of fields; double click to rename it</source>
         <extracomment>src/ui/inspector/GroupTreeModel.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -751,6 +774,11 @@
     <message>
         <source>A path may be a photo, an XMP sidecar or a folder, which is searched at any depth. Photos are written in one step: whatever happens, a file holds what it held before or its new version as a whole.</source>
         <extracomment>src/cli/CommandManual.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A position in any notation, or a link to a map</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -796,6 +824,11 @@
     <message>
         <source>Actual focal length of the lens when the image was shot, in millimeters. For a zoom lens it is the setting in use.</source>
         <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -969,8 +1002,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>An export is in progress. Are you sure you want to quit?</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>An unknown error occurred when writing to the file.</source>
         <extracomment>src/metadata/KTExifTool.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another photo of this export has the same name.</source>
+        <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1120,6 +1163,16 @@
     <message>
         <source>Category</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centre:</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1310,6 +1363,11 @@
     <message>
         <source>Copy</source>
         <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Address</source>
+        <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1823,6 +1881,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Ends the chosen exports; the photos that are finished stay</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Errors &amp; warnings</source>
         <extracomment>src/collection/KTPhotoOperationWindowController.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1878,8 +1941,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Export List</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Export canceled.</source>
-        <extracomment>src/export/slideshow/KTSlideShowExporter.cpp</extracomment>
+        <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export photos with a plug-in</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
@@ -1889,6 +1962,11 @@
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Exports</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Exposure Bias</source>
@@ -1986,6 +2064,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>File:</source>
+        <extracomment>src/export/KTLocationTraces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Files of this kind</source>
         <extracomment>src/ui/window/WindowPresenter.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2023,6 +2106,11 @@
     <message>
         <source>Fit the Selection</source>
         <extracomment>src/ui/map/MapPane.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit the pictures into this size</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2093,6 +2181,11 @@
     <message>
         <source>For {s}, parted by commas</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forgets the chosen exports; what was exported stays</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2324,6 +2417,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Hide Export List</source>
+        <extracomment>src/export/KTPhotoExportProgressWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Horizontal angle of the scene that the image covers, in degrees, calculated from the focal length and the size of the sensor.</source>
         <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2376,6 +2474,11 @@
     <message>
         <source>ISO 3166-1 code, of two or three capital letters, of the country in which the image was shot.</source>
         <extracomment>src/metadata/KTMetadataHelpTablePlaces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Icon</source>
+        <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2524,6 +2627,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>It is not exported, because its place could not be removed from it: %@.</source>
+        <extracomment>src/export/KTPhotoFileExport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>It was interrupted: the photo being written was finished.</source>
         <extracomment>src/cli/CommandManual.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2576,6 +2684,11 @@
     <message>
         <source>Judge and print, write nothing</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2666,6 +2779,11 @@
     <message>
         <source>Leave alone photos that have a location</source>
         <extracomment>src/ui/console/CriteriaView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out where the pictures were taken</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3015,7 +3133,7 @@
     </message>
     <message>
         <source>Name</source>
-        <extracomment>src/ui/windows/TrackListModel.cpp</extracomment>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3046,6 +3164,11 @@
     <message>
         <source>Name the place at a position (-- before negative numbers)</source>
         <extracomment>src/cli/PlaceCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3139,8 +3262,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>No destination</source>
+        <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>No distance restriction</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No exports yet. Choose photos and a way to share them from the menu “Share”.</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3244,6 +3377,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Of JPEG pictures, from 0 to 1</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Of photos of a photo library</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3274,6 +3412,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Opens what was exported</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Operation Log</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3286,6 +3429,11 @@
     <message>
         <source>Organization</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <extracomment>src/export/KTExportedTags.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3454,6 +3602,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Photos taken or shown inside these circles are exported without their location, and tracks without their points there.</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Photos there can be read, but not saved: change the permissions of the folder.</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3484,6 +3637,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Pictures of the type “%@” cannot be made.</source>
+        <extracomment>src/export/KTPhotoFileExport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Pixels for each of these</source>
         <extracomment>src/cli/MapCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3496,6 +3654,11 @@
     <message>
         <source>Place names of the sample position</source>
         <extracomment>src/ui/windows/PreferencesWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places that no export tells</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3559,6 +3722,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Privacy Zones</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Privacy Zones…</source>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Program that the camera used to set the exposure; it tells which of aperture and shutter speed the photographer chose.</source>
         <extracomment>src/metadata/KTMetadataHelpTableCapture.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3596,6 +3769,16 @@
     <message>
         <source>Quit</source>
         <extracomment>src/app/WaymarkAppDelegate.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius:</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3661,6 +3844,11 @@
     <message>
         <source>Remove</source>
         <extracomment>src/collection/KTPhotoControllerMenu.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove From List</source>
+        <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3759,6 +3947,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Replace</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Replace an altitude that a photo has</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3766,6 +3959,11 @@
     <message>
         <source>Replace an image direction that a photo has</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace files that exist already</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3800,7 +3998,7 @@
     </message>
     <message>
         <source>Reveal</source>
-        <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4159,6 +4357,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Show Destination</source>
+        <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Export List</source>
+        <extracomment>src/export/KTPhotoExportProgressWindowController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show all dates in the time zone of the camera clock</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4450,7 +4658,12 @@
     </message>
     <message>
         <source>Stop</source>
-        <extracomment>src/ui/window/BatchProgressSheet.cpp</extracomment>
+        <extracomment>src/ui/export/ExportListWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Export &amp; Quit</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4649,6 +4862,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The export was not finished.</source>
+        <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be made.</source>
+        <extracomment>src/export/KTPhotoFileExport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The file cannot be read.</source>
         <extracomment>src/app/thumbnails/ThumbnailDecoder.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4679,8 +4902,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The file there is a photo of your collection.</source>
+        <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The folder %@ cannot be made.</source>
         <extracomment>src/app/editor/KTUserTemplates.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder or file to export to</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4691,6 +4924,11 @@
     <message>
         <source>The language: English, French, German or Spanish</source>
         <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of exports cannot be kept: %@ cannot be opened (%@).</source>
+        <extracomment>src/export/KTExportHistoryStore.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4774,6 +5012,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The photos that are finished stay.</source>
+        <extracomment>src/app/WaymarkAppController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The photos' times are in</source>
         <extracomment>src/ui/console/CameraClockView.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4789,13 +5032,28 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The picture's colours cannot be converted: its colour profile is not one for red, green and blue.</source>
+        <extracomment>src/export/KTPhotoFileExport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The plug-in cannot be used.</source>
         <extracomment>src/export/KTPluginError.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The plug-in, as the menu "Share" names it</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The positions are in the photos now. Try next:</source>
         <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The privacy zone “%@” of the settings cannot be read.</source>
+        <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4961,6 +5219,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>There is not enough memory for the picture.</source>
+        <extracomment>src/export/KTPhotoFileExport.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This cannot be typed.</source>
         <extracomment>src/app/editor/KTFieldText.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -4991,13 +5254,18 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This position does not exist.</source>
-        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
+        <source>This is not a position.</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This version of Waymark cannot export photos yet.</source>
+        <source>This photo is not one of the export.</source>
         <extracomment>src/export/KTPhotoExportManagerOperation.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This position does not exist.</source>
+        <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5690,6 +5958,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>a file that cannot be read</source>
+        <extracomment>src/export/KTLocationTraces.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>a former run ended while it wrote %@; the file holds what it held before, or its new version as a whole</source>
         <extracomment>src/cli/CommandLine.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5707,6 +5980,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>a number</source>
         <extracomment>src/platform/defaults/KTSettingsTable.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a preview with a position</source>
+        <extracomment>src/export/KTLocationTraces.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5762,6 +6040,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>cannot be loaded from %@</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5877,6 +6160,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>it was made by a newer version of Waymark</source>
         <extracomment>src/platform/tracklibrary/TrackSchema.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>jpeg, png or tiff</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -6090,6 +6378,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>the folder %@ cannot be made</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>the import was stopped</source>
         <extracomment>src/platform/tracklibrary/KTTrackStore.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -6127,6 +6420,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>there is no Image/ExifTool.pm in %@</source>
         <extracomment>src/metadata/KTExifToolFolder.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no export plug-in "%@"; there are: %@</source>
+        <extracomment>src/cli/ExportCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -6280,6 +6578,11 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>“%@” exists already. Do you want to replace it?</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>“%@” is not a date and time</source>
         <extracomment>src/platform/tracklibrary/GPXReader.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -6307,6 +6610,11 @@ the command line does the same work: waymark-cli --help
     <message>
         <source>“%@” is not the address of a web server.</source>
         <extracomment>src/platform/cartography/drawing/tiles/KTTileSource.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%@” is the first of them.</source>
+        <extracomment>src/export/KTPhotoExportPluginManager.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -361,8 +361,10 @@ TEST_F(CommandLine, KilledAtAnyMomentItLeavesEveryPhotoOldOrNewAndTheNextRunCarr
     }
     EXPECT_GT(killedMidway, 0U) << "no round was killed before its end";
     EXPECT_EQ(run(geotagDemo({"--overwrite"})).status, 0);
+    // The process may have been killed before its folder had a name of its owner, which stays for a day.
     for (const auto& entry : std::filesystem::directory_iterator(folder / "trip/photos"))
-        EXPECT_TRUE(entry.is_regular_file()) << entry.path() << " was left behind";
+        EXPECT_TRUE(entry.is_regular_file() || std::filesystem::is_empty(entry))
+            << entry.path() << " was left behind";
 }
 
 TEST_F(CommandLine, DateToolsChangeSaveAndPrint) {

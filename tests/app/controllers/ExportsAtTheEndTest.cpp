@@ -3,6 +3,8 @@
 #include "tests/app/controllers/AppWorld.h"
 #include "tests/export/ScriptedPlugin.h"
 
+#include <QCoreApplication>
+
 TEST(ExportsAtTheEnd, SurviveAClosedWindowAndAreAskedAbout) {
     Script script;
     KTLatch goOn;
@@ -12,6 +14,9 @@ TEST(ExportsAtTheEnd, SurviveAClosedWindowAndAreAskedAbout) {
         const std::lock_guard guard(script.mutex);
         script.conclusion = "Exported nothing.";
     };
+    const struct Rest {
+        ~Rest() { QCoreApplication::processEvents(); }
+    } rest; // what is posted at the end still holds the plug-in
     AppWorld world;
     world.start();
     auto& list = *world.app.photoExportProgressWindowController();

@@ -53,9 +53,10 @@ def metres(a, b):
 
 
 def positions(folder):
+    """{file: (latitude, longitude)}; exiftool prints a number of many digits as text."""
     run = subprocess.run(["exiftool", "-n", "-j", "-GPSLatitude", "-GPSLongitude", folder], capture_output=True)
-    return {os.path.basename(row["SourceFile"]): (row["GPSLatitude"], row["GPSLongitude"])
-            for row in json.loads(run.stdout) if isinstance(row.get("GPSLatitude"), (int, float))}
+    return {os.path.basename(row["SourceFile"]): (float(row["GPSLatitude"]), float(row["GPSLongitude"]))
+            for row in json.loads(run.stdout) if {"GPSLatitude", "GPSLongitude"} <= row.keys()}
 
 
 def compare(arguments, track, table):

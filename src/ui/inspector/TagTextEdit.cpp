@@ -4,6 +4,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QTextDocument>
 
 namespace {
@@ -31,6 +32,22 @@ void TagTextEdit::fitContent() {
         lines * fontMetrics().lineSpacing() + int(2 * document()->documentMargin()) + 2 * frameWidth() + 2;
     if (height != minimumHeight())
         setFixedHeight(height);
+}
+
+void TagTextEdit::setHint(const QString& shown) {
+    hint = shown;
+    viewport()->update();
+}
+
+void TagTextEdit::paintEvent(QPaintEvent* event) {
+    QPlainTextEdit::paintEvent(event);
+    if (hint.isEmpty() || !document()->isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = int(document()->documentMargin());
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, 0),
+                     int(Qt::AlignTop | Qt::AlignLeading) | Qt::TextWordWrap, hint);
 }
 
 void TagTextEdit::showText(const QString& shown) {

@@ -8,6 +8,9 @@ class TagTextEdit : public QPlainTextEdit {
 public:
     explicit TagTextEdit(QWidget* parent = nullptr);
 
+    /// What stands there while there is no text, in the colour of placeholders (Qt's own is not seen in dark
+    /// palettes).
+    void setHint(const QString& shown);
     /// Shows a text that nobody has typed here.
     void showText(const QString& shown);
 
@@ -20,9 +23,11 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void fitContent();
 
+    QString hint;
     bool isShowing = false; // what the program shows, not what somebody types
 };

@@ -20,6 +20,6 @@ void TextFieldEditor::showValue() {
     const QString value = shown(item.text());
     if (!item.isEditing() || text->toPlainText() != value)
         text->showText(value);
-    text->setPlaceholderText(shown(item.placeholder()));
+    text->setHint(shown(item.placeholder()));
     text->setEnabled(item.isEditable());
 }

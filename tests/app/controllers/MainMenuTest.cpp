@@ -4,6 +4,7 @@
 #include "geotagging/KTTimeZoneHUDController.h"
 #include "tests/app/controllers/AppWorld.h"
 
+#include <QCoreApplication>
 #include <set>
 
 namespace {
@@ -74,6 +75,11 @@ TEST(MainMenuTest, FollowsSelectionUndoPanesAndPlugins) {
 
     world.app.importFilesAtPaths({makePhoto(world.folder, "a.jpg")});
     ASSERT_TRUE(world.waitForPhotos(1));
+    EXPECT_TRUE(runEventLoopUntil([&] { return isEnabled("deselectAllPhotos"); }))
+        << "the first are selected";
+    EXPECT_TRUE(menu.performCommand("deselectAllPhotos"));
+    EXPECT_TRUE(runEventLoopUntil([&] { return !isEnabled("removeSelectedPhotos"); }));
+    QCoreApplication::processEvents(); // what is announced of that
     announced = 0;
     EXPECT_TRUE(menu.performCommand("selectAllPhotos"));
     EXPECT_TRUE(runEventLoopUntil([&] { return announced > 0; }));

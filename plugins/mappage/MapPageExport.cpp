@@ -59,12 +59,7 @@ void MapPageExport::shouldPrepareForExportToPath(const std::optional<fs::path>& 
         manager.exportManagerShouldCancelExport();
         return;
     }
-    // A page is never mixed with another one.
-    const fs::path wanted = *path / tr("Map Page").toStdString();
-    folder = wanted;
-    std::error_code error;
-    for (int number = 2; fs::exists(fs::symlink_status(folder, error)); ++number)
-        folder = wanted.string() + " " + std::to_string(number);
+    destination = *path;
     total = static_cast<std::int64_t>(manager.photos().size());
     manager.exportManagerShouldBeginExport();
 }
@@ -107,21 +102,37 @@ bool MapPageExport::writePage(const MapPageContent& content) {
            page.commit();
 }
 
-void MapPageExport::performExport() {
+/// A folder that nobody had before: a page is never mixed with another one, nor with what else stands there,
+/// also where exports wait for each other. False where none can be made.
+bool MapPageExport::makeFolder() {
+    const fs::path wanted = destination / tr("Map Page").toStdString();
     std::error_code error;
-    fs::create_directories(folder / kPictures, error);
+    folder = wanted;
+    for (int number = 2; !fs::create_directory(folder, error); ++number) {
+        std::error_code ignored;
+        if (error && !fs::exists(fs::symlink_status(folder, ignored)))
+            return false;
+        folder = wanted.string() + " " + std::to_string(number);
+    }
+    if (fs::create_directory(folder / kPictures, error))
+        return true;
+    fs::remove(folder, error);
+    return false;
+}
+
+void MapPageExport::performExport() {
+    const bool hasFolder = makeFolder();
     MapPageContent content;
     content.title = tr("Photos on the Map").toStdString();
-    if (!error)
+    if (hasFolder)
         exportPhotos(content);
     for (const auto& track : manager.tracks())
         for (auto& segment : track->segments())
             if (segment.size() > 1)
                 content.tracks.push_back(std::move(segment));
-    bool isWritten = false;
-    if (!error && !isCancelled)
-        isWritten = writePage(content);
-    if (!isWritten && !error)
+    const bool isWritten = hasFolder && !isCancelled && writePage(content);
+    std::error_code error;
+    if (hasFolder && !isWritten)
         fs::remove_all(folder, error); // which this export has made
     conclude(content, isWritten);
     manager.exportManagerShouldFinishExport();

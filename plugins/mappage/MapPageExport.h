@@ -39,6 +39,7 @@ public:
     std::string concludingURL() const override { return url; }
 
 private:
+    bool makeFolder();
     void exportPhotos(MapPageContent& content);
     std::string imageNameFor(const KTExportedPhoto& photo, std::size_t number) const;
     KTPhotoExportOptions options() const;
@@ -47,7 +48,7 @@ private:
     void conclude(const MapPageContent& content, bool isWritten);
 
     KTPhotoExportManager& manager;
-    std::filesystem::path folder; // of the page
+    std::filesystem::path destination, folder; // the folder is the page's own
     std::atomic<bool> isCancelled = false;
     std::size_t failed = 0;
     std::string firstReason;

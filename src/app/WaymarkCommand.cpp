@@ -74,11 +74,6 @@ bool areTagDetailsShown(const App& app) {
 }
 
 template<WaymarkPane pane>
-bool hasPane(const App& app) {
-    const WaymarkWindowController* window = app.waymarkWindowController();
-    return window != nullptr && window->window() != nullptr && window->window()->hasPane(pane);
-}
-template<WaymarkPane pane>
 bool isPaneShown(const App& app) {
     return hasWindow(app) && app.waymarkWindowController()->isPaneShown(pane);
 }
@@ -159,19 +154,19 @@ const WaymarkCommand kCommands[] = {
     {"removeLocationShown", "Remove Location Shown…", &App::removeLocationShown, {}, hasLocationShown},
 
     {"viewMenu", "View"},
-    {"toggleThumbnail", "Thumbnails", &App::toggleThumbnail, "Ctrl+1", nullptr, hasPane<ThumbnailView>,
+    {"toggleThumbnail", "Thumbnails", &App::toggleThumbnail, "Ctrl+1", hasWindow, nullptr,
      isPaneShown<ThumbnailView>},
-    {"toggleMap", "Map", &App::toggleMap, "Ctrl+2", nullptr, hasPane<MapView>, isPaneShown<MapView>},
-    {"toggleGeotaggingConsole", "Geotagging Console", &App::toggleGeotaggingConsole, "Ctrl+3", nullptr,
-     hasPane<GeotaggingView>, isPaneShown<GeotaggingView>},
-    {"toggleMetadataTagViewer", "Metadata", &App::toggleMetadataTagViewer, "Ctrl+4", nullptr,
-     hasPane<MetadataView>, isPaneShown<MetadataView>},
-    {"customizeMetadataTagViewer", "Customize Metadata", &App::customizeMetadataTagViewer, {}, nullptr,
-     hasPane<MetadataCustomizationView>, isPaneShown<MetadataCustomizationView>},
-    {"togglePhotoViewOptions", "View Options", &App::togglePhotoViewOptions, "Ctrl+J", nullptr,
-     hasPane<ViewOptions>, isPaneShown<ViewOptions>},
+    {"toggleMap", "Map", &App::toggleMap, "Ctrl+2", hasWindow, nullptr, isPaneShown<MapView>},
+    {"toggleGeotaggingConsole", "Geotagging Console", &App::toggleGeotaggingConsole, "Ctrl+3", hasWindow,
+     nullptr, isPaneShown<GeotaggingView>},
+    {"toggleMetadataTagViewer", "Metadata", &App::toggleMetadataTagViewer, "Ctrl+4", hasWindow,
+     nullptr, isPaneShown<MetadataView>},
+    {"customizeMetadataTagViewer", "Customize Metadata", &App::customizeMetadataTagViewer, {}, hasWindow,
+     nullptr, isPaneShown<MetadataCustomizationView>},
+    {"togglePhotoViewOptions", "View Options", &App::togglePhotoViewOptions, "Ctrl+J", hasWindow,
+     nullptr, isPaneShown<ViewOptions>},
     {},
-    {"zoomToFit", "Zoom to Photos", &App::zoomToFit, "Ctrl+0", hasPhotos, hasPane<MapView>},
+    {"zoomToFit", "Zoom to Photos", &App::zoomToFit, "Ctrl+0", hasPhotos},
 
     {"windowMenu", "Window"},
     {"openTrackAndWaypointBrowser", "Track Library", &App::openTrackAndWaypointBrowser, "Ctrl+T"},

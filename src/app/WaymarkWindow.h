@@ -23,8 +23,6 @@ class WaymarkWindow : public KTWindow, public KTPresenter {
 public:
     /// What export plug-ins may attach windows to; null for none.
     virtual KTViewHandle viewHandle() = 0;
-    /// Whether the window has such a pane at all; commands for panes that it has not are absent.
-    virtual bool hasPane(WaymarkPane pane) const = 0;
     /// Lets the user choose which of the copied values @p photoCount photos get. @p paste is called once with
     /// what was chosen; not at all when the user gives it up.
     virtual void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t photoCount,

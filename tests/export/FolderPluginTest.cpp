@@ -92,15 +92,21 @@ protected:
     ~FolderPluginTest() override { unsetenv("XDG_CONFIG_HOME"); }
 
     void SetUp() override {
-        auto manifest = KTPluginManifest::ofBundle(WAYMARK_BUILT_PLUGINS "/Folder.ktplugin");
-        ASSERT_TRUE(std::holds_alternative<KTPluginManifest>(manifest));
-        const auto& found = std::get<KTPluginManifest>(manifest);
-        EXPECT_TRUE(fs::exists(found.icon));
-        QPluginLoader loader(QString::fromStdString(found.library.string()));
-        auto factory = qobject_cast<KTPhotoExportPluginFactory*>(loader.instance());
-        ASSERT_NE(factory, nullptr) << loader.errorString().toStdString();
-        plugin = factory->initWithAPIManager(host);
+        plugin = makePlugin("Folder");
+        ASSERT_TRUE(plugin);
         fs::create_directory(destination);
+    }
+    /// Of the bundle of this name; null with a failure when it cannot be loaded.
+    std::unique_ptr<KTPhotoExportPlugin> makePlugin(const std::string& bundle) {
+        const auto manifest = KTPluginManifest::ofBundle(WAYMARK_BUILT_PLUGINS "/" + bundle + ".ktplugin");
+        const auto* found = std::get_if<KTPluginManifest>(&manifest);
+        EXPECT_TRUE(found != nullptr && fs::exists(found->icon)) << bundle;
+        if (found == nullptr)
+            return nullptr;
+        QPluginLoader loader(QString::fromStdString(found->library.string()));
+        const auto factory = qobject_cast<KTPhotoExportPluginFactory*>(loader.instance());
+        EXPECT_NE(factory, nullptr) << loader.errorString().toStdString();
+        return factory == nullptr ? nullptr : factory->initWithAPIManager(host);
     }
     void exportAll() {
         plugin->shouldPrepareForExportToPath(destination);
@@ -226,4 +232,22 @@ TEST_F(FolderPluginTest, ProgressMayBeReadAtAnyTime) {
     exportAll();
     EXPECT_TRUE(seen.contains("Exporting photo 1 of 3"));
     EXPECT_EQ(plugin->currentValue(), 3u);
+}
+
+TEST_F(FolderPluginTest, PagesThatWaitForEachOtherKeepApart) {
+    const auto first = makePlugin("Map Page"), second = makePlugin("Map Page");
+    ASSERT_TRUE(first && second);
+    first->shouldPrepareForExportToPath(destination);
+    second->shouldPrepareForExportToPath(destination);
+    first->performExport();
+    ASSERT_TRUE(fs::exists(destination / "Map Page/index.html"));
+    second->shouldCancelExport();
+    second->performExport();
+    EXPECT_TRUE(fs::exists(destination / "Map Page/index.html")) << "a stopped export removes its own alone";
+    EXPECT_EQ(std::distance(fs::directory_iterator(destination), fs::directory_iterator()), 1);
+
+    const auto third = makePlugin("Map Page");
+    third->shouldPrepareForExportToPath(destination / "that is not there");
+    third->performExport();
+    EXPECT_EQ(third->concludingDescription(), "The page could not be written.");
 }

@@ -80,8 +80,6 @@ void MainToolBar::addViewButtons() {
 }
 
 void MainToolBar::addPaneButton(WaymarkPane pane, const QString& text, const char* icon, const QString& tip) {
-    if (!controller.window() || !controller.window()->hasPane(pane))
-        return;
     QToolButton* const button = addButton(text, icon, tip, {});
     button->setCheckable(true);
     connect(button, &QToolButton::clicked, this,

@@ -71,10 +71,6 @@ MainWindow::~MainWindow() {
         saveState();
 }
 
-bool MainWindow::hasPane(WaymarkPane) const {
-    return true;
-}
-
 void MainWindow::showOrHide() {
     if (!controller.isWindowVisible()) {
         hide();

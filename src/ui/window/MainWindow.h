@@ -22,7 +22,6 @@ public:
     ~MainWindow() override;
 
     KTViewHandle viewHandle() override { return static_cast<QWidget*>(this); }
-    bool hasPane(WaymarkPane pane) const override;
 
     void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t photoCount,
                            std::function<void(const KTCopiedTags& chosen)> paste) override;

@@ -35,9 +35,6 @@ struct FakeUserInterface : WaymarkUserInterface {
             ui.asked.revealFiles(files);
         }
         KTViewHandle viewHandle() override { return this; }
-        bool hasPane(WaymarkPane pane) const override {
-            return pane != WaymarkPane::MetadataView && pane != WaymarkPane::MetadataCustomizationView;
-        }
         void chooseTagsToPaste(const KTCopiedTags& tags, std::size_t,
                                std::function<void(const KTCopiedTags&)> paste) override {
             paste(tags);

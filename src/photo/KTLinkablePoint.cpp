@@ -162,10 +162,11 @@ void KTLinkablePoint::updateDescriptions() {
         const std::string preceding =
                               converter.roundedDefaultDistanceDescriptionFromMeters(metresToPreceding),
                           next = converter.roundedDefaultDistanceDescriptionFromMeters(metresToNext);
-        shortText =
-            KTStringWithFormat("%@ from preceding track point and %@ to next track point", {preceding, next});
-        longText = KTStringWithFormat("%@ from preceding track point and %@ to next track point for %@",
-                                      {preceding, next, nameOfPhoto});
+        shortText = KTStringWithFormat(
+            KTLocalizedString("%@ from preceding track point and %@ to next track point"), {preceding, next});
+        longText = KTStringWithFormat(
+            KTLocalizedString("%@ from preceding track point and %@ to next track point for %@"),
+            {preceding, next, nameOfPhoto});
     }
     for (std::string_view key : {"pointDescription", "pointLongDescription"})
         didChange(key);

@@ -25,10 +25,11 @@ StandardPanel::StandardPanel(Controller& linkerController, QWidget* parent)
     grid->setVerticalSpacing(1);
     grid->setColumnStretch(0, 1);
     addRow(*grid, &Controller::precedingPoint, &Controller::savePrecedingPointAction,
-           uiText("Preceding track point"));
+           uiText("Preceding track point"), uiText("Geotag to preceding track point"));
     addRow(*grid, &Controller::timeWeightedPoint, &Controller::saveTimeWeightedPointAction,
-           uiText("Time weighted average point"));
-    addRow(*grid, &Controller::nextPoint, &Controller::saveNextPointAction, uiText("Next track point"));
+           uiText("Time weighted average point"), uiText("Geotag to time weighted average point"));
+    addRow(*grid, &Controller::nextPoint, &Controller::saveNextPointAction, uiText("Next track point"),
+           uiText("Geotag to next track point"));
     auto* const advances = new QCheckBox(uiText("then select the next photo"));
     advances->setToolTip(uiText("Selects the next photo as soon as this one is geotagged"));
     advances->setChecked(KTUserDefaults::standardUserDefaults().boolForKey(kAdvances));
@@ -41,7 +42,7 @@ StandardPanel::StandardPanel(Controller& linkerController, QWidget* parent)
 }
 
 void StandardPanel::addRow(QGridLayout& grid, Point (Controller::*point)() const, void (Controller::*save)(),
-                           const QString& name) {
+                           const QString& name, const QString& buttonName) {
     auto row = std::make_unique<Row>(
         Row{point, new QLabel(name), new QLabel, new QPushButton(uiText("Geotag")), {}, {}});
     QFont bold = row->title->font();
@@ -49,7 +50,7 @@ void StandardPanel::addRow(QGridLayout& grid, Point (Controller::*point)() const
     row->title->setFont(bold);
     row->text->setWordWrap(true);
     row->text->setForegroundRole(QPalette::PlaceholderText);
-    row->button->setAccessibleName(uiText("Geotag to %1").arg(name.toLower()));
+    row->button->setAccessibleName(buttonName);
     row->button->setToolTip(row->button->accessibleName());
     connect(row->button, &QPushButton::clicked, this, [this, save] { (controller.*save)(); });
     const int line = grid.rowCount();

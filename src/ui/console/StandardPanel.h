@@ -29,7 +29,8 @@ private:
     };
 
     void addRow(QGridLayout& grid, Point (KTSingleSelectionLinkerViewController::*point)() const,
-                void (KTSingleSelectionLinkerViewController::*save)(), const QString& name);
+                void (KTSingleSelectionLinkerViewController::*save)(), const QString& name,
+                const QString& buttonName);
     void update();
     static void describe(Row& row);
 

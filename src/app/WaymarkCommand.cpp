@@ -10,6 +10,7 @@
 #include "datetools/KTDateToolsWindowController.h"
 #include "geotagging/KTAppTrackPickerController.h"
 #include "platform/common/KTLocalizedString.h"
+#include "platform/common/KTText.h"
 #include "platform/undo/KTUndoManager.h"
 
 namespace {
@@ -78,17 +79,18 @@ bool isPaneShown(const App& app) {
     return hasWindow(app) && app.waymarkWindowController()->isPaneShown(pane);
 }
 
-/// "Undo Geotag Photos".
-std::string withAction(const char* verb, const std::string& action) {
-    return action.empty() ? KTLocalizedString(verb) : KTLocalizedString(verb) + " " + action;
+/// "Undo", or "Undo Geotag Photos".
+std::string withAction(const char* verb, const char* verbWithAction, const std::string& action) {
+    return action.empty() ? KTLocalizedString(verb)
+                          : KTStringWithFormat(KTLocalizedString(verbWithAction), {action});
 }
 std::string undoTitle(const App& app) {
     if (app.hasPendingEdit())
         return KTLocalizedString("Undo Typing");
-    return withAction("Undo", app.undoManager()->undoActionName());
+    return withAction("Undo", "Undo %@", app.undoManager()->undoActionName());
 }
 std::string redoTitle(const App& app) {
-    return withAction("Redo", app.undoManager()->redoActionName());
+    return withAction("Redo", "Redo %@", app.undoManager()->redoActionName());
 }
 
 /// Each by its file name; where two have the same, one finds out by trying.

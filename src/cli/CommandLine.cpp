@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/CommandManual.h"
+#include "cli/ParserTexts.h"
 #include "metadata/KTExifToolFolder.h"
 
 #include "platform/common/KTLocalizedString.h"
@@ -24,8 +25,7 @@ struct GlobalOptions {
 };
 
 void addGlobalOptions(CLI::App& app, GlobalOptions& options, CommandSession& session) {
-    app.get_formatter()->label("Usage", KTLocalizedString("Usage"));
-    app.get_formatter()->label("Positionals", KTLocalizedString("Arguments"));
+    translateParser(app);
     app.set_help_flag("-h,--help", KTLocalizedString("Show this help"));
     app.set_version_flag(
         "--version", [] { return KTAboutText("waymark-cli"); }, KTLocalizedString("Show the version"));

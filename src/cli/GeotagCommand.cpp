@@ -154,10 +154,13 @@ void GeotagCommand::warnAboutZoneChanges(const CommandSession& session) const {
     if (photosAtAnotherOffset == 0)
         return;
     session.message(KTStringWithFormat(
-        KTLocalizedString("%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the "
-                          "photos were taken; give the offset itself to match those"),
-        {zone->name(), zone->offsetText(KTInstantNow()), otherOffset,
-         std::to_string(photosAtAnotherOffset)}));
+        KTLocalizedCount(
+            "%@ was taken as the fixed offset %@, but its clocks stood at %@ when 1 photo was "
+            "taken; give the offset itself to match it",
+            "%@ was taken as the fixed offset %@, but its clocks stood at %@ when %d photos were "
+            "taken; give the offset itself to match those",
+            photosAtAnotherOffset),
+        {zone->name(), zone->offsetText(KTInstantNow()), otherOffset}));
 }
 
 void addGeotagCommand(CLI::App& app, CommandList& commands) {

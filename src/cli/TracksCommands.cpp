@@ -9,6 +9,14 @@
 
 namespace {
 
+std::string pointsText(std::int64_t count) {
+    return KTLocalizedCount("1 point", "%d points", std::size_t(count));
+}
+
+std::string waypointsText(std::int64_t count) {
+    return KTLocalizedCount("1 waypoint", "%d waypoints", std::size_t(count));
+}
+
 class TracksImportCommand : public Command {
 public:
     std::vector<std::string> files;
@@ -53,13 +61,12 @@ private:
     }
 
     static void printText(const std::string& file, const KTTrackImportResult& result) {
-        const std::string format =
-            result.alreadyImported
-                ? KTLocalizedString("%@: already imported, %@ points (%@ with a date), %@ waypoints")
-                : KTLocalizedString("%@: %@ points (%@ with a date), %@ waypoints");
-        std::puts(KTStringWithFormat(format, {file, std::to_string(result.pointCount),
+        const std::string format = result.alreadyImported
+                                       ? KTLocalizedString("%@: already imported, %@ (%@ with a date), %@")
+                                       : KTLocalizedString("%@: %@ (%@ with a date), %@");
+        std::puts(KTStringWithFormat(format, {file, pointsText(result.pointCount),
                                               std::to_string(result.datedPointCount),
-                                              std::to_string(result.waypointCount)})
+                                              waypointsText(result.waypointCount)})
                       .c_str());
     }
 };
@@ -109,12 +116,10 @@ private:
                 ? KTStringWithFormat(KTLocalizedString("%@ to %@"),
                                      {KTISO8601Text(*track.firstDate), KTISO8601Text(*track.lastDate)})
                 : KTLocalizedString("no dates");
-        const auto count = track.kind == KTTrack::Kind::Waypoints ? track.waypointCount : track.pointCount;
-        const std::string counted = track.kind == KTTrack::Kind::Waypoints ? KTLocalizedString("%@ waypoints")
-                                                                           : KTLocalizedString("%@ points");
+        const std::string count = track.kind == KTTrack::Kind::Waypoints ? waypointsText(track.waypointCount)
+                                                                         : pointsText(track.pointCount);
         std::printf("%lld\t%s\t%s\t%s\t%s\t%s\n", static_cast<long long>(track.id), kindName(track.kind),
-                    track.name.c_str(), KTStringWithFormat(counted, {std::to_string(count)}).c_str(),
-                    span.c_str(), track.sourceFile.c_str());
+                    track.name.c_str(), count.c_str(), span.c_str(), track.sourceFile.c_str());
     }
 };
 
@@ -139,9 +144,7 @@ public:
             json.value(KTValue(KTValue::List(deletion.deleted.begin(), deletion.deleted.end())));
             json.endObject();
         } else {
-            std::printf("%s\n", KTStringWithFormat(KTLocalizedString("%@ removed"),
-                                                   {std::to_string(deletion.deleted.size())})
-                                    .c_str());
+            std::printf("%s\n", KTLocalizedCount("%d removed", deletion.deleted.size()).c_str());
         }
         return session.exitStatus();
     }

@@ -238,12 +238,11 @@ void KTPhotoExportPluginManager::askAboutExistingFiles(const std::vector<std::fi
         return answer(existingFiles.value_or(KTExistingFiles::Cancel));
     const std::string first = KTValidUTF8(existing.front().filename().string());
     presenter->presentAlert(
-        {.message = existing.size() == 1
-                        ? KTStringWithFormat(
-                              KTLocalizedString("“%@” exists already. Do you want to replace it?"), {first})
-                        : KTStringWithFormat(
-                              KTLocalizedString("%d files exist already. Do you want to replace them?"),
-                              {std::to_string(existing.size())}),
+        {.message =
+             existing.size() == 1
+                 ? KTStringWithFormat(KTLocalizedString("“%@” exists already. Do you want to replace it?"),
+                                      {first})
+                 : KTLocalizedCount("%d files exist already. Do you want to replace them?", existing.size()),
          .informativeText =
              existing.size() == 1
                  ? std::string()

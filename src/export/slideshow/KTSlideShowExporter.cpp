@@ -83,8 +83,7 @@ void KTSlideShowExporter::shouldCancelExport() {
 
 void KTSlideShowExporter::slideShowDidFinish() {
     exportManager.exportManagerShouldFinishExport();
-    conclude(
-        KTStringWithFormat(KTLocalizedString("Exported %lu photos"), {std::to_string(progress.totalValue)}));
+    conclude(KTLocalizedCount("Exported %lu photos", progress.totalValue));
 }
 
 void KTSlideShowExporter::conclude(std::string description) {

@@ -17,10 +17,10 @@ struct DurationPart {
     const char* singular;
     const char* plural;
 };
-constexpr DurationPart kDurationParts[] = {{86400, "%@ day", "%@ days"},
-                                           {3600, "%@ hour", "%@ hours"},
-                                           {60, "%@ minute", "%@ minutes"},
-                                           {1, "%@ second", "%@ seconds"}};
+constexpr DurationPart kDurationParts[] = {{86400, "1 day", "%d days"},
+                                           {3600, "1 hour", "%d hours"},
+                                           {60, "1 minute", "%d minutes"},
+                                           {1, "1 second", "%d seconds"}};
 
 std::string numberText(double number, int decimals) {
     QLocale locale;
@@ -41,11 +41,12 @@ std::string durationText(std::uint64_t seconds, std::size_t parts) {
         seconds %= static_cast<std::uint64_t>(part.seconds);
         left = left == 0 && count != 0 ? parts : left;
         if (count != 0)
-            texts.push_back(filled(count == 1 ? part.singular : part.plural, numberText(double(count), 0)));
+            texts.push_back(KTLocalizedCount(part.singular, part.plural, count));
         if (left != 0 && --left == 0)
             break;
     }
-    return texts.empty() ? filled(kDurationParts[3].plural, "0") : KTJoin(texts, " ");
+    return texts.empty() ? KTLocalizedCount(kDurationParts[3].singular, kDurationParts[3].plural, 0)
+                         : KTJoin(texts, " ");
 }
 
 /// Two significant digits below ten, none after the point above: "1.2", "25", "140".

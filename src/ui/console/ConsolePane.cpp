@@ -12,6 +12,7 @@
 #include "ui/support/ObservationLink.h"
 #include "ui/support/PrimaryButton.h"
 #include "ui/support/SwitchButton.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QApplication>
@@ -228,9 +229,7 @@ void ConsolePane::showTracks() {
             if (track->lastDate && (!last || *track->lastDate > *last))
                 last = track->lastDate;
         }
-    QString text = count == 0   ? QString()
-                   : count == 1 ? uiText("from 1 track")
-                                : uiText("from %1 tracks").arg(count);
+    QString text = count == 0 ? QString() : uiCount("from 1 track", "from %d tracks", count);
     if (first && last) {
         const KTDateTimeFormatter formatter;
         text += ", " + QString::fromStdString(formatter.stringForObjectValue(*first)) + " – " +

@@ -86,9 +86,8 @@ QString CoverFlowView::frontText() const {
     if (!frontIndex)
         return {};
     return uiText("%1, %2 of %3")
-        .arg(uiPath((*photos)[*frontIndex]->filename()))
-        .arg(*frontIndex + 1)
-        .arg(count());
+        .arg(uiPath((*photos)[*frontIndex]->filename()), QString::number(*frontIndex + 1),
+             QString::number(count()));
 }
 
 void CoverFlowView::wish() {

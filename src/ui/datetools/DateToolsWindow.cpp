@@ -10,6 +10,7 @@
 #include "ui/datetools/DateShiftPanel.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/PrimaryButton.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QApplication>
@@ -28,10 +29,6 @@ constexpr struct {
 } kTools[] = {{"Shift", "Correct the dates of a camera whose clock was wrong"},
               {"Set", "Give the photos one date, as far as it is known"},
               {"Copy", "Copy one of a photo's dates to others of it"}};
-
-QString countText(std::size_t count) {
-    return count == 1 ? uiText("1 photo is concerned.") : uiText("%1 photos are concerned.").arg(count);
-}
 
 /// What the photo in front is dated now.
 QString dateText(const KTPhoto& photo) {
@@ -230,7 +227,8 @@ void DateToolsWindow::showPhotos() {
 
 void DateToolsWindow::showPreviews() {
     const KTDateTool& tool = *controller.currentSubviewController();
-    concerned->setText(countText(tool.photosConcerned()->size()));
+    concerned->setText(
+        uiCount("1 photo is concerned.", "%d photos are concerned.", tool.photosConcerned()->size()));
     const auto shown = tool.previews();
     previews->setPreviews(shown);
     applyButton->setEnabled(

@@ -58,7 +58,7 @@ QVariant ExportListModel::data(const QModelIndex& index, int role) const {
         if (role == Qt::ToolTipRole)
             return address;
         if (role == Qt::AccessibleTextRole)
-            return address.isEmpty() ? uiText("No destination") : uiText("Show Destination") + ": " + address;
+            return address.isEmpty() ? uiText("No destination") : uiText("Show Destination: %1").arg(address);
         if (role == Qt::DecorationRole && !address.isEmpty())
             return QIcon::fromTheme("document-open-folder", QIcon::fromTheme("folder-open"));
         break;

@@ -2,6 +2,7 @@
 
 #include "metadata/KTMetadataField.h"
 #include "ui/support/CellList.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QDialogButtonBox>
@@ -38,9 +39,8 @@ PasteTagsSheet::PasteTagsSheet(KTCopiedTags copied, std::size_t photoCount,
     list->setModel(rows);
     list->setColumnWidth(0, 180);
     list->setCurrentIndex(rows->index(0, 0));
-    auto* const label =
-        new QLabel(photoCount == 1 ? uiText("Paste the checked values onto the selected photo:")
-                                   : uiText("Paste the checked values onto %1 photos:").arg(photoCount));
+    auto* const label = new QLabel(uiCount("Paste the checked values onto the selected photo:",
+                                           "Paste the checked values onto %d photos:", photoCount));
     label->setBuddy(list);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     paste = buttons->addButton(uiText("Paste Tags"), QDialogButtonBox::AcceptRole);

@@ -4,6 +4,7 @@
 #include "photo/KTLinkablePoint.h"
 #include "photo/KTLinkablePointBubble.h"
 #include "platform/common/KTText.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 namespace {
@@ -71,8 +72,8 @@ MapHoverCard::Content MapPointing::describe(const KTPhotoLayers::Mark& mark) {
         names << "…";
     return {objects.front().get(),
             {},
-            (mark.kind == KTPhotoLayers::Mark::Kind::Stack ? uiText("%1 photos at one place")
-                                                           : uiText("%1 photos near here"))
-                .arg(objects.size()),
+            mark.kind == KTPhotoLayers::Mark::Kind::Stack
+                ? uiCount("1 photo at one place", "%d photos at one place", objects.size())
+                : uiCount("1 photo near here", "%d photos near here", objects.size()),
             names.join('\n')};
 }

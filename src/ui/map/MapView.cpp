@@ -2,9 +2,11 @@
 
 #include "ui/application/ApplicationLook.h"
 #include "ui/support/MenuBuilder.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QPainter>
 #include <QResizeEvent>
 #include <QRubberBand>
@@ -264,10 +266,9 @@ QString MapView::spokenState() {
     std::size_t visible = 0;
     for (const auto& mark : mapLayers.photos().visibleMarks(map.viewState()))
         visible += mark.numbers.size();
-    return uiText("Zoom %1, centre %2, %3, %4 photos shown, %5 tracks")
-        .arg(map.scale(), 0, 'f', 1)
-        .arg(map.latitude(), 0, 'f', 4)
-        .arg(map.longitude(), 0, 'f', 4)
-        .arg(visible)
-        .arg(mapLayers.tracks().tracks().size());
+    return uiText("Zoom %1, centre %2, %3, %4, %5")
+        .arg(QLocale().toString(map.scale(), 'f', 1), QLocale().toString(map.latitude(), 'f', 4),
+             QLocale().toString(map.longitude(), 'f', 4),
+             uiCount("1 photo shown", "%d photos shown", visible),
+             uiCount("1 track", "%d tracks", mapLayers.tracks().tracks().size()));
 }

@@ -1,5 +1,6 @@
 #include "ui/map/MapView.h"
 #include "ui/photos/PhotoMimeData.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QDropEvent>
@@ -16,11 +17,12 @@ void MapView::dragMoveEvent(QDragMoveEvent* event) {
         return;
     event->acceptProposedAction();
     const std::size_t count = photos->photos().size();
-    card->show({photos,
-                {},
-                count == 1 ? uiPath(photos->photos().front()->filename()) : uiText("%1 photos").arg(count),
-                uiText("Dropping geotags to this place.")},
-               event->position().toPoint());
+    card->show(
+        {photos,
+         {},
+         count == 1 ? uiPath(photos->photos().front()->filename()) : uiCount("1 photo", "%d photos", count),
+         uiText("Dropping geotags to this place.")},
+        event->position().toPoint());
 }
 
 void MapView::dropEvent(QDropEvent* event) {

@@ -1,9 +1,11 @@
 #include "ui/photos/PhotoPane.h"
 
+#include "platform/common/KTText.h"
 #include "platform/defaults/KTUserDefaults.h"
 #include "ui/photos/PhotoViewOptions.h"
 #include "ui/photos/ThumbnailBrowser.h"
 #include "ui/support/ObservationLink.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QHBoxLayout>
@@ -106,8 +108,10 @@ void PhotoPane::showView() {
 void PhotoPane::showSelectionCount() {
     const std::size_t selected = controller.selectedPhotoIndexes().size();
     const std::size_t all = controller.photoManager().numberOfPhotos();
-    QString text = uiText("%1 of %2 photos selected").arg(selected).arg(all);
+    const std::string selectedText =
+        KTLocalizedCount("%@ of 1 photo selected", "%@ of %d photos selected", all);
+    QString text = QString::fromStdString(KTStringWithFormat(selectedText, {std::to_string(selected)}));
     if (!list->filter().letsAllThrough())
-        text += uiText(", %1 shown").arg(list->rowCount());
+        text += uiCount(", %d shown", ", %d shown", std::size_t(list->rowCount()));
     selectionLine->setText(all == 0 ? QString() : text);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/photos/PhotoListModel.h"
 #include "ui/support/MenuBuilder.h"
+#include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
 #include <QDrag>
@@ -11,7 +12,7 @@
 namespace {
 
 QPixmap dragSign(const QWidget& widget, std::size_t photos) {
-    const QString text = photos == 1 ? uiText("1 photo") : uiText("%1 photos").arg(photos);
+    const QString text = uiCount("1 photo", "%d photos", photos);
     const QSize size(widget.fontMetrics().horizontalAdvance(text) + 20, widget.fontMetrics().height() + 10);
     QPixmap pixmap(size * widget.devicePixelRatioF());
     pixmap.setDevicePixelRatio(widget.devicePixelRatioF());

@@ -74,31 +74,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of %2 photos selected</source>
-        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 photos</source>
-        <extracomment>src/ui/map/MapViewDrops.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 photos are concerned.</source>
-        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 photos at one place</source>
-        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 photos near here</source>
-        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 to the map's centre</source>
         <extracomment>src/ui/console/ManualPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -219,16 +194,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%@ day</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ days</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%@ did not answer in time.</source>
         <extracomment>src/photo/KTLinkablePointPlace.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -294,16 +259,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%@ hour</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ hours</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%@ is missing</source>
         <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -311,6 +266,11 @@
     <message>
         <source>%@ is not empty</source>
         <extracomment>src/collection/DemoTrip.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@ is required</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -333,20 +293,13 @@
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%@ minute</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ minutes</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ points</source>
-        <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%@ of %d photos selected</source>
+        <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>%@ redirects to %@, which was not asked.</source>
@@ -361,16 +314,6 @@
     <message>
         <source>%@ refuses to give place names (HTTP status %@).</source>
         <extracomment>src/platform/gazetteer/KTNominatimReverseGeocoder.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ removed</source>
-        <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ second</source>
-        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -408,15 +351,13 @@
         <extracomment>src/platform/gazetteer/KTGazetteer.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %@ of the photos were taken; give the offset itself to match those</source>
+    <message numerus="yes">
+        <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %d photos were taken; give the offset itself to match those</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%@ waypoints</source>
-        <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>%@, %@ MB free</source>
@@ -429,12 +370,47 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%@: %@ points (%@ with a date), %@ waypoints</source>
+        <source>%@: %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%@: already imported, %@ points (%@ with a date), %@ waypoints</source>
+        <source>%@: %@ not in {%@}</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: %@ required %@ missing</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: At Most %@ required but received %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: At least %@ required but received %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: Directory does not exist: %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: Directory is actually a file: %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: Value %@ not in range %@ to %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%@: already imported, %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -449,6 +425,14 @@
     <message numerus="yes">
         <source>%d could not be saved.</source>
         <extracomment>src/cli/GeotagReport.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d days</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -471,8 +455,24 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%d hours</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%d loaded photos</source>
         <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d minutes</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -495,6 +495,14 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%d photos are concerned.</source>
+        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%d photos are more than %@ from the nearest track point.</source>
         <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
         <translation type="unfinished">
@@ -505,6 +513,14 @@
     <message numerus="yes">
         <source>%d photos are not between points less than %@ apart.</source>
         <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos at one place</source>
+        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -567,8 +583,48 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%d photos near here</source>
+        <extracomment>src/ui/map/MapPointing.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d photos shown</source>
+        <extracomment>src/ui/map/MapView.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%d photos with unsaved changes, </source>
         <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d points</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d removed</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%d seconds</source>
+        <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -598,6 +654,14 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%d waypoints</source>
+        <extracomment>src/cli/TracksCommands.cpp</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
     <message>
         <source>%llu bytes</source>
         <extracomment>src/metadata/KTValueFormatters.cpp</extracomment>
@@ -616,10 +680,13 @@
         <extracomment>src/cli/ZoneCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>, %1 shown</source>
+    <message numerus="yes">
+        <source>, %d shown</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>--exiftool FOLDER</source>
@@ -629,91 +696,6 @@
     <message>
         <source>0 image, 1 image or sidecar by type, 2 sidecar, 3 both, 4 sidecar where one exists</source>
         <extracomment>src/cli/SaveOptions.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 folder</source>
-        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 loaded photo</source>
-        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo</source>
-        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo already geotagged.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo can be geotagged.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo does not have a time stamp</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo does not have a time stamp.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo failed both the time &amp; distance criteria</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo failed the distance criteria</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo failed the time criteria</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo fails both the time and distance critieria.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo is concerned.</source>
-        <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo is more than %@ from the nearest track point.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo is not between points less than %@ apart.</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 photo with unsaved changes, </source>
-        <extracomment>src/collection/KTPhotoManagerToolbarController.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 track</source>
-        <extracomment>src/app/WaymarkAppControllerFiles.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 track in it</source>
-        <extracomment>src/collection/InstallationCheck.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -799,6 +781,11 @@
     <message>
         <source>A source of map tiles instead of the offline map</source>
         <extracomment>src/cli/MapCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A subcommand is required</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1057,7 +1044,7 @@
     </message>
     <message>
         <source>Arguments</source>
-        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1118,6 +1105,11 @@
     <message>
         <source>By the lake</source>
         <extracomment>src/cli/DemoCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COMMAND</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1321,6 +1313,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Commands</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Common Tags</source>
         <extracomment>src/metadata/KTMetadataFieldManager.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -1478,6 +1475,11 @@
     <message>
         <source>Corrected date:</source>
         <extracomment>src/ui/datetools/DateShiftPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not convert: %@ = %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2267,11 +2269,6 @@
         </translation>
     </message>
     <message>
-        <source>Geotag 1 Photo</source>
-        <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Geotag Photos</source>
         <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2287,11 +2284,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Geotag to %1</source>
-        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Geotag to Map Center</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -2302,8 +2294,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Geotag to next track point</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Geotag to point</source>
         <extracomment>src/geotagging/KTGeotaggingControllerGestures.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to preceding track point</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geotag to time weighted average point</source>
+        <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3373,7 +3380,7 @@
     </message>
     <message>
         <source>OPTIONS</source>
-        <extracomment>src/ui/application/StartOptions.cpp</extracomment>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3424,6 +3431,11 @@
     <message>
         <source>Operations</source>
         <extracomment>src/ui/windows/OperationLogWindow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3516,15 +3528,13 @@
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Paste the checked values onto %1 photos:</source>
+    <message numerus="yes">
+        <source>Paste the checked values onto %d photos:</source>
         <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Paste the checked values onto the selected photo:</source>
-        <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>Pause</source>
@@ -3772,6 +3782,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>REQUIRED</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Radius</source>
         <extracomment>src/ui/export/PrivacyZonesSheet.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -3823,6 +3838,11 @@
     </message>
     <message>
         <source>Redo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -4074,6 +4094,11 @@
     <message>
         <source>Rows count from the south</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run with --help for more information.</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4359,6 +4384,11 @@
     <message>
         <source>Show Destination</source>
         <extracomment>src/export/KTPhotoExportOperationController.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Destination: %1</source>
+        <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4917,6 +4947,16 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The following argument was not expected: %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %@</source>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The image file still holds what was cleared: %@</source>
         <extracomment>src/photo/KTPhotoRefreshing.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5462,11 +5502,6 @@ the command line does the same work: waymark-cli --help
         </translation>
     </message>
     <message>
-        <source>Unable To Geotag 1 Photo</source>
-        <extracomment>src/geotagging/KTGeotaggingSummary.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Unable to set the photos metadata using ScriptingBridge</source>
         <extracomment>src/photo/KTiPhotoTool.cpp</extracomment>
         <translation type="unfinished"></translation>
@@ -5478,6 +5513,11 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>Undo</source>
+        <extracomment>src/app/WaymarkCommand.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -5513,7 +5553,7 @@ the command line does the same work: waymark-cli --help
     </message>
     <message>
         <source>Usage</source>
-        <extracomment>src/cli/CommandLine.cpp</extracomment>
+        <extracomment>src/cli/ParserTexts.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5913,7 +5953,7 @@ the command line does the same work: waymark-cli --help
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Zoom %1, centre %2, %3, %4 photos shown, %5 tracks</source>
+        <source>Zoom %1, centre %2, %3, %4, %5</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -6087,15 +6127,13 @@ the command line does the same work: waymark-cli --help
         <extracomment>src/ui/inspector/InspectorGroup.cpp</extracomment>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>from %1 tracks</source>
+    <message numerus="yes">
+        <source>from %d tracks</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>from 1 track</source>
-        <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
         <source>geotag photos from GPS tracks and edit their metadata</source>

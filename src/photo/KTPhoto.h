@@ -237,9 +237,10 @@ public:
 
 private:
     /// What the edits of a field have entered into the dictionaries of changes.
+    using Revisions = std::array<unsigned, 3>;
     struct FieldEdits {
         std::vector<KTTagKey> keys;
-        std::array<unsigned, 3> revisions = {}; ///< of the sources, when the first of them was entered
+        Revisions revisions = {}; ///< of the sources, when the first that a save would write was entered
     };
     /// Keeps a value that is being set from being taken for one that nobody has edited.
     class EditUnderWay {
@@ -317,7 +318,9 @@ private:
     bool isUnsaved(KTMetadataSource::Kind kind, const KTSaveTargets& where) const; // the mutex must be held
     void setMainThreadHasUnsavedChanges(bool unsaved);
     void recordInto(KTMetadataSource& source, const KTMetadataField& field, const KTValue& value);
+    Revisions revisions() const; // the mutex must be held
     bool hasPendingKeys(const KTMetadataField& field, const KTTagDictionary& changes) const;
+    bool isPendingInTargets(const KTMetadataField& field, const KTSaveTargets& where) const;
 
     // Undo (KTPhotoUndo.cpp)
     void registerEditForUndo(const KTMetadataField& field, const KTValue& oldValue);

@@ -82,7 +82,14 @@ void KTPhoto::changeRecords(const std::function<void()>& change) {
 /// Enters a value into the three dictionaries of changes. One that is back to what the sources hold withdraws
 /// what the field has entered, unless @p evenAsSaved asks for every difference between the sources.
 void KTPhoto::recordField(const KTMetadataField& field, const KTValue& value, bool evenAsSaved) {
-    const bool withdraws = !evenAsSaved && isAsSaved(field, value, targets());
+    const KTSaveTargets where = targets();
+    {
+        std::lock_guard guard(mutex);
+        const auto entry = recordedEdits.find(&field);
+        if (entry != recordedEdits.end() && !isPendingInTargets(field, where))
+            entry->second.revisions = revisions(); // what else is pending is of former edits
+    }
+    const bool withdraws = !evenAsSaved && isAsSaved(field, value, where);
     std::lock_guard guard(mutex);
     for (KTMetadataSource& source : sources) {
         recordInto(source, field, value);
@@ -101,17 +108,24 @@ void KTPhoto::recordInto(KTMetadataSource& source, const KTMetadataField& field,
         recordClearedInNewSidecar(field, sources[KTMetadataSource::Image], source);
     auto [entry, isFirst] = recordedEdits.try_emplace(&field);
     if (isFirst)
-        for (const KTMetadataSource& each : sources)
-            entry->second.revisions[each.kind] = each.revision;
+        entry->second.revisions = revisions();
     std::vector<KTTagKey>& keys = entry->second.keys;
     for (const auto& [key, change] : source.changes)
         if (!before.find(key) && std::ranges::find(keys, key) == keys.end())
             keys.push_back(key);
 }
 
+KTPhoto::Revisions KTPhoto::revisions() const {
+    Revisions result;
+    for (const KTMetadataSource& source : sources)
+        result[source.kind] = source.revision;
+    return result;
+}
+
 /// Whether @p value is the one that was read, and every source that a save would write to holds it: where an
-/// image and its sidecar differ, the value of one of them is an edit for the other. Undoing an edit since
-/// which no file was read or written goes back to where the photo was, and asks for the first alone.
+/// image and its sidecar differ, the value of one of them is an edit for the other. A source that tells
+/// nothing does not differ, unless a save has failed to write the field to it. Undoing an edit since which no
+/// file was read or written goes back to where the photo was, and asks for the first alone.
 bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
                         const KTSaveTargets& where) const {
     const auto undo = undoManager();
@@ -119,20 +133,29 @@ bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
     if (!KTIsSameValue(value, valueAsRead(field, sources, where)))
         return false;
     const auto edits = recordedEdits.find(&field);
-    const bool goesBack = undo && undo->isUndoingOrRedoing() && edits != recordedEdits.end();
-    if (goesBack && std::ranges::all_of(sources, [&](const KTMetadataSource& source) {
-            return edits->second.revisions[source.kind] == source.revision;
-        }))
+    const bool isSinceLastWrite = edits != recordedEdits.end() && edits->second.revisions == revisions();
+    if (undo && undo->isUndoingOrRedoing() && isSinceLastWrite)
         return true;
-    auto holds = [&](KTMetadataSource::Kind kind) {
-        return KTIsSameValue(sources[kind].valueForField(field), value);
+    auto agrees = [&](KTMetadataSource::Kind kind) {
+        const KTValue held = sources[kind].valueForField(field);
+        const bool tellsNothing = kind != KTMetadataSource::Library && KTIsSameValue(held, {}) &&
+                                  (isSinceLastWrite || !hasPendingKeys(field, sources[kind].changes));
+        return tellsNothing || KTIsSameValue(held, value);
     };
-    if (shouldUseIPhotoProperties() && field.iPhotoSupported() && !holds(KTMetadataSource::Library))
+    if (shouldUseIPhotoProperties() && field.iPhotoSupported() && !agrees(KTMetadataSource::Library))
         return false;
-    if (where.xmpSidecar && where.hasSidecar && !holds(KTMetadataSource::Sidecar))
+    if (where.xmpSidecar && where.hasSidecar && !agrees(KTMetadataSource::Sidecar))
         return false;
     const bool imageCounts = where.imageFile || !where.hasSidecar;
-    return !imageCounts || holds(KTMetadataSource::Image);
+    return !imageCounts || agrees(KTMetadataSource::Image);
+}
+
+/// Whether something of @p field is to be written where a save writes to; the mutex must be held.
+bool KTPhoto::isPendingInTargets(const KTMetadataField& field, const KTSaveTargets& where) const {
+    const bool counts[] = {where.imageFile, where.xmpSidecar, shouldUseIPhotoProperties()};
+    return std::ranges::any_of(sources, [&](const KTMetadataSource& source) {
+        return counts[source.kind] && hasPendingKeys(field, source.changes);
+    });
 }
 
 bool KTPhoto::hasPendingKeys(const KTMetadataField& field, const KTTagDictionary& changes) const {

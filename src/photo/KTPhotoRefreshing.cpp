@@ -101,15 +101,15 @@ void KTPhoto::adopt(const KTMetadataSource& read, const KTTagDictionary& pending
 /// the main thread.
 void KTPhoto::showUneditedValues(Pending pending) {
     const KTSaveTargets where = targets();
-    const bool counts[] = {where.imageFile, where.xmpSidecar, shouldUseIPhotoProperties()};
     for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields()) {
         KTValue value;
         {
             std::lock_guard guard(mutex);
-            const bool isEdited = std::ranges::any_of(sources, [&](const auto& source) {
-                return (counts[source.kind] || pending == Pending::Anywhere) &&
-                       hasPendingKeys(*field, source.changes);
-            });
+            const bool isEdited = pending == Pending::InTargets
+                                      ? isPendingInTargets(*field, where)
+                                      : std::ranges::any_of(sources, [&](const auto& source) {
+                                            return hasPendingKeys(*field, source.changes);
+                                        });
             if (isEdited || KTPhotoPropertyTable::isFromFile(field->key()) || isBeingEdited(field->key()))
                 continue;
             value = valueAsRead(*field, sources, where);

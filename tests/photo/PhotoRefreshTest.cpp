@@ -138,6 +138,22 @@ TEST_F(PhotoRefresh, WhatASidecarCannotClearShowsAgainAndIsSaid) {
               "The image file still holds what was cleared: Title");
 }
 
+TEST_F(PhotoRefresh, UndoingAClearingThatTheFirstSidecarCouldNotHoldLeavesNothingUnsaved) {
+    setStyle(2);
+    auto photo = openWithUndo(
+        makePhoto(folder, "b.jpg", {{"EXIF:GPSDateStamp", "2014:06:01"}, {"EXIF:GPSTimeStamp", "09:59:59"}}));
+    const KTValue date = photo->valueForKey("gpsDateTime");
+    ASSERT_TRUE(date.isSomething());
+    photo->setValueForKey("gpsDateTime", {});
+    photo->saveWithBackupToFolder(std::nullopt);
+    ASSERT_FALSE(tagsOf(folder / "b.xmp").find("XMP:GPSDateTime"));
+    ASSERT_EQ(photo->valueForKey("gpsDateTime"), date) << "that of the image shows again";
+    ASSERT_FALSE(photo->hasUnsavedChanges());
+    ASSERT_TRUE(undo->undo());
+    EXPECT_EQ(photo->valueForKey("gpsDateTime"), date);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+}
+
 TEST_F(PhotoRefresh, WhatFollowsFromAnEditedTagIsShownAfterTheSave) {
     auto dated = open(makePhoto(folder, "b.jpg", {{"EXIF:CreateDate", "2014:06:01 12:00:00"}}));
     dated->setDateTimeDigitizedComponents(KTDateComponents::dateComponentsWithString("2015:01:01 00:00:00"));

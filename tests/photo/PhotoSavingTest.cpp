@@ -199,6 +199,9 @@ TEST_F(PhotoSaving, WhenOnlyTheSidecarFailsTheImageCountsAsWrittenAndTheSidecarS
     EXPECT_TRUE(photo->valueForKey("metadataDate").isSomething()) << "the image holds the stamp";
     EXPECT_EQ(tagsOf(file).valueForKey("XMP:Title"), KTValue("new"));
     EXPECT_EQ(contentOf(sidecar).size(), 6U);
+    photo->setValueForKey("title", "other");
+    photo->setValueForKey("title", "new");
+    EXPECT_TRUE(photo->source(KTMetadataSource::Sidecar).changes.find("XMP:Title")) << "it lacks it still";
 }
 
 TEST_F(PhotoSaving, KeepsBackupsAndModificationDates) {

@@ -160,13 +160,25 @@ SoakModel::Values Soak::readImageAlone(const Path& file) {
     return values;
 }
 
+/// Whether the last attempt to write @p file failed; false where there was none.
+bool Soak::lastWriteFailed(const KTPhoto& photo, const Path& file) {
+    bool hasFailed = false;
+    for (const KTPhotoOperation& operation : photo.photoOperations())
+        if (operation.url == file && operation.operationDescription == "Write metadata to file")
+            hasFailed = !operation.operationDidSucceed;
+    return hasFailed;
+}
+
 /// Where a save writes both image and sidecar, it may reach the sidecar alone: the image refuses the edit, or
 /// the edit came between the two. Then the values are there for a reading, and yet must be saved.
 void Soak::noteImageBehind(const Photo& photo, const SoakModel::Values& disk) {
     const Path& file = photo->fileURL();
     model.behind.erase(file);
+    model.refusedDates.erase(file);
     if (!photo->writingToImageFile() || !photo->writingToXMPSidecar())
         return;
+    if (lastWriteFailed(*photo, file) && !lastWriteFailed(*photo, photo->xmpURL()))
+        model.refusedDates.insert(file);
     const SoakModel::Values alone = readImageAlone(file), shows = SoakModel::valuesOf(*photo);
     for (const auto& [key, value] : alone) {
         if (SoakModel::isSame(value, shows.at(key)))

@@ -60,6 +60,7 @@ private:
     static std::string pendingOf(const KTPhoto& photo);
     bool isInImage(const Path& file, const KTValue& value);
     SoakModel::Values readImageAlone(const Path& file);
+    static bool lastWriteFailed(const KTPhoto& photo, const Path& file);
     void noteImageBehind(const Photo& photo, const SoakModel::Values& disk);
     SoakModel::Values readAnew(const Path& file);
     std::vector<std::optional<KTFileStamp>> stampsOf(const Path& file) const;

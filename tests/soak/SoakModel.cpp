@@ -76,6 +76,7 @@ bool SoakModel::move(Steps& from, Steps& to) {
 
 void SoakModel::forget(const Path& file) {
     records.erase(file);
+    refusedDates.erase(file);
     behind.erase(file); // whoever loads it again takes what a reading brings as saved
     for (Steps* steps : {&undoSteps, &redoSteps}) {
         for (Records& step : *steps)
@@ -87,7 +88,8 @@ void SoakModel::forget(const Path& file) {
 bool SoakModel::mustBeSaved(const Path& file) const {
     const Values& shown = records.at(file);
     const auto image = behind.find(file);
-    return !isSame(shown, disk.at(file)) || (image != behind.end() && !isSame(image->second, shown));
+    return refusedDates.contains(file) || !isSame(shown, disk.at(file)) ||
+           (image != behind.end() && !isSame(image->second, shown));
 }
 
 std::optional<std::pair<double, double>> SoakModel::positionAt(std::int64_t milliseconds) const {

@@ -2,6 +2,7 @@
 #include "photo/KTPhoto.h"
 
 #include <map>
+#include <set>
 
 /// The simplest bookkeeping of what a collection under random work must hold: what each record shows, what a
 /// fresh reading of each file shows, what can be undone, which track points there are.
@@ -34,16 +35,18 @@ public:
     void forget(const Path& file);
 
     /// Whether a loaded record shows other than its file holds, or than its image does that a save left
-    /// behind.
+    /// behind; also that of a save which the image refused.
     bool mustBeSaved(const Path& file) const;
 
     /// The position that a photo of that instant gets under the default criteria: of the nearer track point,
     /// less than 300 s away; of two that are as near the earlier. Nothing where there is none.
     std::optional<std::pair<double, double>> positionAt(std::int64_t milliseconds) const;
 
-    Records records;                                        ///< of the loaded photos
-    Records disk;                                           ///< of every file that was ever looked at
-    Records behind;                                         ///< of images whose sidecar alone was written
+    Records records; ///< of the loaded photos
+    Records disk;    ///< of every file that was ever looked at
+    Records behind;  ///< of images whose sidecar alone was written
+    /// Images that refused a save whose sidecar was written: they lack its dates, whatever is edited.
+    std::set<Path> refusedDates;
     std::map<std::int64_t, std::vector<TrackPoint>> tracks; ///< by identifier
 
 private:

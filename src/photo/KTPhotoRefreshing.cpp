@@ -62,7 +62,8 @@ KTPhoto::Refresh KTPhoto::refreshIfChanged(KTMetadataSource::Kind kind) {
 }
 
 /// Takes @p read as what its file holds. Of the changes, @p pending stay, and the fields of which a key
-/// @p isEdited are entered anew, against what the file holds now. On the main thread.
+/// @p isEdited are entered anew, against what the file holds now; those that are cleared also for a sidecar
+/// that is yet to be made of the image. On the main thread.
 void KTPhoto::adopt(const KTMetadataSource& read, const KTTagDictionary& pending,
                     const std::function<bool(const KTTagKey&)>& isEdited) {
     KTMetadataSource next = read;
@@ -79,19 +80,29 @@ void KTPhoto::adopt(const KTMetadataSource& read, const KTTagDictionary& pending
     for (auto& [field, value] : edits)
         value = valueForKey(field->key());
 
+    const std::string_view ofSidecar = sources[KTMetadataSource::Sidecar].changesKey();
+    const bool isImage = next.kind == KTMetadataSource::Image;
     willChange(next.savedKey());
     willChange(next.changesKey());
+    if (isImage)
+        willChange(ofSidecar);
     {
         std::lock_guard guard(mutex);
         for (const auto& [field, value] : edits)
             recordInto(next, *field, value);
         next.revision = sources[next.kind].revision + 1;
         sources[next.kind] = next;
+        KTMetadataSource& sidecar = sources[KTMetadataSource::Sidecar];
+        for (const auto& [field, value] : edits)
+            if (isImage && !sidecar.stamp && KTIsSameValue(value, {}))
+                recordInto(sidecar, *field, value);
         std::erase_if(recordedEdits, [this](const auto& entry) {
             return std::ranges::none_of(
                 sources, [&](const auto& source) { return hasPendingKeys(*entry.first, source.changes); });
         });
     }
+    if (isImage)
+        didChange(ofSidecar);
     didChange(next.changesKey());
     didChange(next.savedKey());
 }

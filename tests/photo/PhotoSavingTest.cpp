@@ -148,6 +148,29 @@ TEST_F(PhotoSaving, ANewSidecarHoldsWhatThePhotoShowsAndNotWhatWasClearedOrRound
     EXPECT_FALSE(photo->hasUnsavedChanges());
 }
 
+TEST_F(PhotoSaving, WhatIsClearedWhileTheImageIsWrittenIsNotInItsFirstSidecar) {
+    setStyle(3);
+    const auto file = makePhoto(folder, "a.jpg");
+    auto photo = open(file);
+    photo->setValueForKey("gpsDateTime", KTInstantFromMilliseconds(1401616799250));
+    bool isSidecar = false;
+    const KTPhotoSaving clearing{.proofTool = {},
+                                 .didWrite =
+                                     [&] {
+                                         if (!std::exchange(isSidecar, true))
+                                             photo->setValueForKey("gpsDateTime", {});
+                                     },
+                                 .didProve = {}};
+    photo->saveWithBackupToFolder(std::nullopt, clearing);
+    EXPECT_TRUE(tagsOf(file).find("EXIF:GPSDateStamp")) << "it was on its way";
+    EXPECT_FALSE(tagsOf(folder / "a.xmp").find("XMP:GPSDateTime"));
+    EXPECT_TRUE(photo->hasUnsavedChanges());
+    photo->saveWithBackupToFolder(std::nullopt);
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    EXPECT_FALSE(tagsOf(file).find("EXIF:GPSDateStamp"));
+    EXPECT_FALSE(photo->valueForKey("gpsDateTime").isSomething());
+}
+
 TEST_F(PhotoSaving, AFailedSaveLeavesTheFileAndTheChanges) {
     auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}});
     const std::string before = contentOf(file);

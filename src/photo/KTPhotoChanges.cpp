@@ -124,7 +124,7 @@ KTPhoto::Revisions KTPhoto::revisions() const {
 
 /// Whether @p value is the one that was read, and every source that a save would write to holds it: where an
 /// image and its sidecar differ, the value of one of them is an edit for the other. A source that tells
-/// nothing does not differ, unless a save has failed to write the field to it. Undoing an edit since which no
+/// nothing does not differ, unless a save may have left an edit behind. Undoing an edit since which no
 /// file was read or written goes back to where the photo was, and asks for the first alone.
 bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
                         const KTSaveTargets& where) const {
@@ -136,11 +136,11 @@ bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
     const bool isSinceLastWrite = edits != recordedEdits.end() && edits->second.revisions == revisions();
     if (undo && undo->isUndoingOrRedoing() && isSinceLastWrite)
         return true;
+    const bool lacksAnEdit = !isSinceLastWrite && isPendingInTargets(field, where);
     auto agrees = [&](KTMetadataSource::Kind kind) {
         const KTValue held = sources[kind].valueForField(field);
-        const bool tellsNothing = kind != KTMetadataSource::Library && KTIsSameValue(held, {}) &&
-                                  (isSinceLastWrite || !hasPendingKeys(field, sources[kind].changes));
-        return tellsNothing || KTIsSameValue(held, value);
+        const bool tellsNothing = kind != KTMetadataSource::Library && KTIsSameValue(held, {});
+        return (tellsNothing && !lacksAnEdit) || KTIsSameValue(held, value);
     };
     if (shouldUseIPhotoProperties() && field.iPhotoSupported() && !agrees(KTMetadataSource::Library))
         return false;

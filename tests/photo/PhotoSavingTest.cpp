@@ -171,6 +171,21 @@ TEST_F(PhotoSaving, WhatIsClearedWhileTheImageIsWrittenIsNotInItsFirstSidecar) {
     EXPECT_FALSE(photo->valueForKey("gpsDateTime").isSomething());
 }
 
+TEST_F(PhotoSaving, AnEditThatReachedTheSidecarAloneStaysOneForTheImage) {
+    setStyle(3);
+    auto photo = open(makePhoto(folder, "a.jpg"));
+    photo->setValueForKey("label", "l");
+    const KTPhotoSaving typing{
+        .proofTool = {}, .didWrite = [&] { photo->setValueForKey("title", "t"); }, .didProve = {}};
+    photo->saveWithBackupToFolder(std::nullopt, typing);
+    ASSERT_EQ(tagsOf(folder / "a.xmp").valueForKey("XMP:Title"), KTValue("t"));
+    for (const KTValue& value : {KTValue(), KTValue("t")}) {
+        EXPECT_TRUE(photo->hasUnsavedChanges());
+        photo->setValueForKey("title", value);
+    }
+    EXPECT_TRUE(imageChanges(photo).find("XMP:Title"));
+}
+
 TEST_F(PhotoSaving, AFailedSaveLeavesTheFileAndTheChanges) {
     auto file = makePhoto(folder, "a.jpg", {{"XMP:Title", "old"}});
     const std::string before = contentOf(file);

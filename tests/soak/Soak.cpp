@@ -47,7 +47,8 @@ void Soak::step() {
     ++done[chosen->name];
     const SoakModel::Records before = model.records;
     (this->*chosen->run)();
-    lately.push_back(chosen->name + changesSince(before));
+    lately.push_back(chosen->name + changesSince(before) +
+                     (undoManager->canUndo() ? "; to undo: " + undoManager->undoActionName() : ""));
     if (lately.size() > kRemembered)
         lately.erase(lately.begin());
     checkRecords();

@@ -131,8 +131,8 @@ void Soak::save() {
     manager.savePhotos(chosen, [&] { didSave = true; });
     const bool isEdited = number(3) == 0;
     const std::uint64_t stop = number(6) == 0 ? number(1 + chosen.size()) : UINT64_MAX;
-    // How often the loop turns is chance; the steps that follow must not depend on it.
-    const std::mt19937_64 afterwards = random;
+    // How often the loop turns is chance; the steps that follow must not depend on it, nor repeat its edits.
+    const std::mt19937_64 afterwards(random());
     SoakModel::Records edited;
     waitUntil([&] {
         if (isEdited && !didSave && number(10) == 0 && !chosen.empty()) {

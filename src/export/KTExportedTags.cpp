@@ -2,10 +2,13 @@
 
 #include "metadata/KTExifTool.h"
 #include "metadata/KTMetadataFieldManager.h"
+#include "metadata/KTWritableTags.h"
 #include "photo/KTPhoto.h"
 #include "photo/KTSameValue.h"
 #include "platform/common/KTText.h"
 
+#include <mutex>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace {
@@ -21,12 +24,23 @@ join(' ', map { ref($_) eq 'HASH' && ($_->{Protected} || 0) =~ /^\d+$/ && ($_->{
           Image::ExifTool::TagTableKeys(Image::ExifTool::GetTagTable('Image::ExifTool::Exif::Main')));
 )perl";
 
-const Names& writableKeys() {
-    static const Names keys = [] {
-        const auto list = KTExifTool::sharedExifTool().writableTags();
-        return Names(list.begin(), list.end());
-    }();
-    return keys;
+/// Those of @p keys that may be written, as @p tool says; each key is asked for once in the process.
+Names writableAmong(const Names& keys, KTExifTool& tool) {
+    static std::mutex mutex;
+    static std::unordered_map<std::string, bool> known;
+    std::vector<std::string> asked;
+    {
+        const std::lock_guard guard(mutex);
+        std::ranges::copy_if(keys, std::back_inserter(asked),
+                             [](const std::string& key) { return !known.contains(key); });
+    }
+    const Names found = KTWritableTagsAmong(asked, tool);
+    const std::lock_guard guard(mutex);
+    for (const std::string& key : asked)
+        known[key] = found.contains(key);
+    Names result = keys;
+    std::erase_if(result, [](const std::string& key) { return !known[key]; });
+    return result;
 }
 
 /// Names of tags that are true of one file's picture only. @p tool is for the first call.
@@ -34,9 +48,9 @@ const Names& structuralNames(KTExifTool& tool) {
     static const Names names = [&tool] {
         const auto list = KTSplit(tool.evaluate(kStructure).description(), ' ');
         Names result(list.begin(), list.end());
-        for (const char* name :
-             {"Orientation", "ExifImageWidth", "ExifImageHeight", "ImageLength", "NativeDigest",
-              "HasSettings", "ThumbnailImage", "PreviewImage", "JpgFromRaw", "OtherImage"})
+        for (const char* name : {"Orientation", "ExifImageWidth", "ExifImageHeight", "ImageLength",
+                                 "NativeDigest", "HasSettings", "About", "HasExtendedXMP", "ThumbnailImage",
+                                 "PreviewImage", "JpgFromRaw", "OtherImage"})
             result.insert(name);
         return result;
     }();
@@ -44,9 +58,8 @@ const Names& structuralNames(KTExifTool& tool) {
 }
 
 /// "Description" of "XMP:Description-de", whose other languages the list of writable tags does not know.
-std::string_view withoutLanguage(std::string_view key) {
-    const auto dash = key.starts_with("XMP:") ? key.rfind('-') : std::string_view::npos;
-    return key.substr(0, dash);
+std::string withoutLanguage(const std::string& key) {
+    return key.starts_with("XMP:") ? key.substr(0, key.find('-')) : key;
 }
 
 bool isCarried(const KTValue& value) {
@@ -71,6 +84,9 @@ KTExportedTags::KTExportedTags(const KTPhoto& photo) {
             places.push_back(place.description());
     if (!hasChanges(photo))
         return;
+    const KTValue turned = photo.source(KTMetadataSource::Sidecar).saved->valueForKey("XMP:Orientation");
+    if (turned.isSomething() && turned != savedTags.valueForKey("EXIF:Orientation"))
+        differing.set("EXIF:Orientation", turned);
     for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields()) {
         const KTValue shown = photo.valueForKey(field->key());
         if (!KTIsSameValue(shown, image.valueForField(*field)))
@@ -80,20 +96,22 @@ KTExportedTags::KTExportedTags(const KTPhoto& photo) {
 
 KTTagDictionary KTExportedTags::all(KTExifTool& tool) const {
     std::vector<KTTagDictionary::Entry> tags;
-    const auto add = [&](const KTTagDictionary& from) {
-        for (const auto& [key, value] : from) {
+    Names keys;
+    for (const KTTagDictionary* const from : {&savedTags, &differing}) // of two entries the later one holds
+        for (const auto& [key, value] : *from) {
             const std::string name(key.text().substr(key.text().find(':') + 1));
             const bool isOfFile =
                 key.text().starts_with("MakerNotes:") || key.text().starts_with("Composite:") ||
                 key.text().starts_with("ICC_Profile:") || structuralNames(tool).contains(name);
-            if (!isOfFile && isCarried(value) &&
-                (writableKeys().contains(key.text()) ||
-                 writableKeys().contains(std::string(withoutLanguage(key)))))
-                tags.push_back({key, value});
+            if (isOfFile || !isCarried(value))
+                continue;
+            tags.push_back({key, value});
+            keys.insert({key.text(), withoutLanguage(key.text())});
         }
-    };
-    add(savedTags);
-    add(differing); // of two entries of a key the later one holds
+    const Names writable = writableAmong(keys, tool);
+    std::erase_if(tags, [&](const KTTagDictionary::Entry& tag) {
+        return !writable.contains(tag.key.text()) && !writable.contains(withoutLanguage(tag.key.text()));
+    });
     return KTTagDictionary(std::move(tags));
 }
 

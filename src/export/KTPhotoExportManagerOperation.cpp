@@ -8,6 +8,7 @@
 #include "platform/common/KTText.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/desktop/KTTypeIdentifiers.h"
+#include "platform/pictures/PictureDecoder.h"
 
 std::shared_ptr<KTPhotoExportManagerOperation> KTPhotoExportManagerOperation::make() {
     // A thread of the export queue may let go last, but plug-ins have views, which are for the main thread.
@@ -166,6 +167,10 @@ std::vector<std::string> KTPhotoExportManagerOperation::validExportFormats() con
 std::string KTPhotoExportManagerOperation::fileExtensionForUTI(std::string_view uti) const {
     const KTTypeIdentifier* type = KTTypeWithIdentifier(uti);
     return type == nullptr ? std::string() : std::string(type->extension);
+}
+
+bool KTPhotoExportManagerOperation::isImageIOSupported(const std::filesystem::path& path) const {
+    return canDecodePictures(path);
 }
 
 void KTPhotoExportManagerOperation::exportManagerShouldBeginExport() {

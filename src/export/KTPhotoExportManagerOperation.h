@@ -71,6 +71,8 @@ public:
                                     const KTPhotoExportOptions& withOptions) override;
     std::vector<std::string> validExportFormats() const override;
     std::string fileExtensionForUTI(std::string_view uti) const override;
+    /// Whether a file called so can be exported in another size or type.
+    bool isImageIOSupported(const std::filesystem::path& path) const;
     // Never wait: from another thread they are posted to the main thread.
     void exportManagerShouldBeginExport() override;
     void exportManagerShouldCancelExport() override;

@@ -84,7 +84,9 @@ private:
         for (const auto& [key, value] : content)
             bridge.setNewValue(value, key.text());
         // It belongs to the picture itself, which stays as it is.
-        bridge.setNewValue(tags.saved().valueForKey("EXIF:Orientation"), "EXIF:Orientation");
+        const KTValue* const turned = tags.differences().find("EXIF:Orientation");
+        bridge.setNewValue(turned != nullptr ? *turned : tags.saved().valueForKey("EXIF:Orientation"),
+                           "EXIF:Orientation");
         return failureOf(bridge.writeResultToFile(item, photo.fileURL()));
     }
 

@@ -130,6 +130,30 @@ TEST_F(PhotoExportTest, SizesAreExactAndPicturesUpright) {
     }
 }
 
+TEST_F(PhotoExportTest, OrientationCountsOnceWhereverItStands) {
+    const auto file = picture("a.jpg", {400, 300}, {{"EXIF:Artist", "Ana"}});
+    picture("b.png", {400, 300}, {{"EXIF:Orientation", KTValue(6)}}); // its reader does not turn it
+    ASSERT_TRUE(KTExifTool::sharedExifTool()
+                    .setValuesForKeysWithDictionary({{"XMP:Orientation", KTValue(6)}}, folder / "a.xmp", file)
+                    .operationDidSucceed);
+    for (const char* name : {"a.jpg", "b.png"}) {
+        const KTPhotoExportOptions small = {{KTImageSizeOption, KTImageSize{100, 100}},
+                                            {KTImageTypeOption, "public.jpeg"}};
+        ASSERT_TRUE(exportFile(folder / name, "made.jpg", small));
+        EXPECT_EQ(sizeOf(folder / "made.jpg"), QSize(75, 100)) << name;
+        const KTValue left = tagsOf(folder / "made.jpg").valueForKey("EXIF:Orientation");
+        EXPECT_TRUE(!left.isSomething() || left == KTValue(1)) << name;
+        fs::remove(folder / "made.jpg");
+        for (const bool excludes : {false, true}) {
+            const fs::path copy = "copy" + fs::path(name).extension().string();
+            ASSERT_TRUE(exportFile(folder / name, copy, {{KTExcludeLocationOption, excludes}}));
+            EXPECT_EQ(sizeOf(folder / copy), QSize(400, 300)) << name;
+            EXPECT_EQ(tagsOf(folder / copy).valueForKey("EXIF:Orientation"), KTValue(6)) << name;
+            fs::remove(folder / copy);
+        }
+    }
+}
+
 TEST_F(PhotoExportTest, TypesProfilesAndDepthsAreKeptOrTold) {
     const auto wide = picture("wide.png", {64, 48}, {{"XMP:Title", "market"}}, QImage::Format_RGBX64,
                               QColorSpace(QColorSpace::AdobeRgb));
@@ -155,6 +179,10 @@ TEST_F(PhotoExportTest, TypesProfilesAndDepthsAreKeptOrTold) {
     EXPECT_FALSE(exportFile(folder.file("broken.jpg", "\xff\xd8\xff"), "x.jpg",
                             {{KTImageSizeOption, KTImageSize{10, 10}}}));
     EXPECT_EQ(names(folder.path()), "broken.jpg out.jpg out.png out.tif wide.png ");
+    for (const char* readable : {"x.JPG", "x.tif", "x.png", "x.nef"})
+        EXPECT_TRUE(operation->isImageIOSupported(readable)) << readable;
+    for (const char* other : {"x", "x.gpx", "x.psd", ".png"})
+        EXPECT_FALSE(operation->isImageIOSupported(other)) << other;
     EXPECT_EQ(operation->validExportFormats(),
               (std::vector<std::string>{"public.jpeg", "public.png", "public.tiff"}));
 }

@@ -1,4 +1,5 @@
 #include "metadata/KTExifToolLease.h"
+#include "metadata/KTWritableTags.h"
 
 #include "platform/common/KTText.h"
 #include "tests/support/TestPhotos.h"
@@ -196,6 +197,23 @@ TEST(ExifTool, KnowsWhatCanBeWritten) {
     auto has = [&](std::string_view key) { return std::ranges::find(keys, key) != keys.end(); };
     EXPECT_TRUE(has("EXIF:Make") && has("XMP:Title") && has("IPTC:Keywords"));
     EXPECT_FALSE(has("Photoshop:IPTCDigest") || has("XMP:XMPToolkit") || has("EXIF:Compression"));
+    // Asking for some gives what the list gives.
+    const std::vector<std::string> some = {"EXIF:Make",
+                                           "XMP:Title",
+                                           "IPTC:Keywords",
+                                           "Photoshop:IPTCDigest",
+                                           "XMP:XMPToolkit",
+                                           "EXIF:Compression",
+                                           "XMP:LocationShownCity",
+                                           "MakerNotes:Rating",
+                                           "Composite:GPSPosition",
+                                           "File:FileName",
+                                           "EXIF:NoSuchTag",
+                                           "ICC_Profile:ProfileClass",
+                                           "Photoshop:XResolution"};
+    const auto among = KTWritableTagsAmong(some, tool());
+    for (const std::string& key : some)
+        EXPECT_EQ(among.contains(key), has(key)) << key;
     EXPECT_TRUE(tool().canWriteToFile("a.jpg"));
     EXPECT_FALSE(tool().canWriteToFile("a.doc"));
     EXPECT_FALSE(tool().canWriteToFile("a'.jpg"));

@@ -4,6 +4,7 @@
 #include "platform/common/KTLocalizedString.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/concurrency/KTThreadHeap.h"
+#include "platform/pictures/PictureTurn.h"
 
 namespace {
 
@@ -152,6 +153,14 @@ void KTThumbnailService::work() {
 }
 
 DecodedPicture KTThumbnailService::make(const Key& key) const {
+    DecodedPicture result = makeWithoutSidecar(key);
+    if (!result.image.isNull())
+        result.image = turnedByFlip(result.image, pictureTurnBeyondDecoding(key.file));
+    return result;
+}
+
+/// The shared cache belongs to all programs, and its pictures are those of the file alone.
+DecodedPicture KTThumbnailService::makeWithoutSidecar(const Key& key) const {
     if (const QImage shared = cache.load(key.file, key.size); !shared.isNull())
         return {shared.convertToFormat(QImage::Format_ARGB32_Premultiplied), {}};
     if (cache.hasFailed(key.file))

@@ -75,6 +75,7 @@ private:
     void startThreads();
     void work();
     DecodedPicture make(const Key& key) const;
+    DecodedPicture makeWithoutSidecar(const Key& key) const;
     void announceSoon();
 
     const ThumbnailFileCache cache;

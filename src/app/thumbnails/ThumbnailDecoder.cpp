@@ -3,15 +3,14 @@
 #include "platform/common/KTLocalizedString.h"
 #include "platform/pictures/EmbeddedPreview.h"
 #include "platform/pictures/PictureFile.h"
+#include "platform/pictures/PictureTurn.h"
 
 #include <QImageReader>
-#include <QTransform>
 #include <cmath>
 
 namespace {
 
 constexpr double kSameProportions = 1.02; // previews with black bars have others than their picture
-constexpr int kFlipOfOrientation[] = {0, 0, 1, 3, 2, 4, 6, 7, 5}; // of EXIF orientations 1…8
 
 QSize fitted(const QSize& size, int edge) {
     return size.width() <= edge && size.height() <= edge
@@ -37,7 +36,7 @@ QImage previewInJPEG(QFile& file, int edge) {
     if (std::max(image.width(), image.height()) < edge ||
         !haveSameProportions(image.size(), preview->imageSize))
         return {};
-    return turnedByFlip(image, kFlipOfOrientation[preview->orientation]);
+    return turnedByFlip(image, flipOfOrientation(preview->orientation));
 }
 
 DecodedPicture decodeWithReader(QFile& file, int edge) {

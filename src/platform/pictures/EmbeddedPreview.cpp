@@ -71,8 +71,7 @@ std::optional<EmbeddedPreview> previewOfEXIF(const QByteArray& block) {
     const Directory preview = image.next ? readDirectory(tiff, image.next) : Directory();
     EmbeddedPreview result;
     result.jpeg = tiff.mid(preview.previewOffset, preview.previewLength);
-    if (image.orientation >= 1 && image.orientation <= 8)
-        result.orientation = int(image.orientation);
+    result.orientation = orientationInEXIF(block);
     return result.jpeg.startsWith("\xff\xd8") ? std::optional(result) : std::nullopt;
 }
 
@@ -116,6 +115,12 @@ std::optional<EmbeddedPreview> embeddedPreviewOfJPEG(const QByteArray& head) {
         at += 2 + length;
     }
     return result;
+}
+
+int orientationInEXIF(const QByteArray& block) {
+    const TIFFBytes tiff(block.startsWith(QByteArray("Exif\0\0", 6)) ? block.mid(6) : block);
+    const std::uint32_t told = tiff.isTIFF() ? readDirectory(tiff, tiff.number32(4)).orientation : 0;
+    return told >= 1 && told <= 8 ? int(told) : 1;
 }
 
 bool tellsPosition(const QByteArray& file) {

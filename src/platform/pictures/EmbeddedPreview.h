@@ -17,6 +17,10 @@ inline constexpr qint64 kJPEGHeadLength = 160 * 1024;
 /// there is none or where it is damaged. Any thread.
 std::optional<EmbeddedPreview> embeddedPreviewOfJPEG(const QByteArray& head);
 
+/// The orientation of the picture that an EXIF block (a TIFF structure) belongs to; 1 where it does not tell.
+/// Any thread.
+int orientationInEXIF(const QByteArray& block);
+
 /// Whether an EXIF block (a TIFF structure) anywhere in @p file, be it that of an embedded preview, has a
 /// directory of GPS tags that says anything but its own version. @p file is the whole of a JPEG, TIFF, PNG or
 /// raw file. Any thread.

@@ -1,7 +1,10 @@
 #include "platform/pictures/PictureDecoder.h"
 
 #include "platform/common/KTLocalizedString.h"
+#include "platform/desktop/KTTypeIdentifiers.h"
 #include "platform/pictures/PictureFile.h"
+#include "platform/pictures/PictureTurn.h"
+#include "platform/pictures/PrintingColors.h"
 
 #include <QImageReader>
 #include <cmath>
@@ -26,17 +29,7 @@ WholePicture decodeRaw(const std::filesystem::path& file, const std::optional<QS
     return {std::move(picture.image), size, std::move(picture.problem)};
 }
 
-} // namespace
-
-QSize fittedPictureSize(const QSize& size, const QSizeF& box) {
-    const double shape = double(size.width()) / size.height();
-    const QSizeF fitted = box.width() >= box.height() * shape
-                              ? QSizeF(std::round(box.height() * shape), box.height())
-                              : QSizeF(box.width(), std::round(box.width() / shape));
-    return fitted.toSize().expandedTo({1, 1});
-}
-
-WholePicture decodePicture(const std::filesystem::path& path, const std::optional<QSizeF>& fitting) {
+WholePicture decodeFile(const std::filesystem::path& path, const std::optional<QSizeF>& fitting) {
     if (isRawFileName(path))
         return decodeRaw(path, fitting);
     QFile file;
@@ -55,10 +48,46 @@ WholePicture decodePicture(const std::filesystem::path& path, const std::optiona
             !scaled.isEmpty())
             reader.setScaledSize(scaled);
     }
+    if (reader.format() == "jpeg") {
+        const int eighths =
+            reader.scaledSize().isEmpty() ? 8 : reader.scaledSize().width() * 8 / stored.width();
+        if (const QImage printed = decodePrintingColors(path, eighths); !printed.isNull())
+            return {turnedByFlip(printed, flipOfTransformation(reader.transformation())), upright, {}};
+    }
     QImage image = reader.read();
     if (image.isNull())
         return {{}, {}, reader.errorString().toStdString()};
     if (upright.isEmpty())
         upright = image.size();
     return {std::move(image), upright, {}};
+}
+
+} // namespace
+
+bool canDecodePictures(const std::filesystem::path& named) {
+    const auto type = KTTypeIdentifierForPath(named);
+    const KTTypeIdentifier* const known = type ? KTTypeWithIdentifier(*type) : nullptr;
+    return isRawFileName(named) ||
+           (known != nullptr && QImageReader::supportedMimeTypes().contains(
+                                    QByteArray(known->mimeType.data(), qsizetype(known->mimeType.size()))));
+}
+
+QSize fittedPictureSize(const QSize& size, const QSizeF& box) {
+    const double shape = double(size.width()) / size.height();
+    const QSizeF fitted = box.width() >= box.height() * shape
+                              ? QSizeF(std::round(box.height() * shape), box.height())
+                              : QSizeF(box.width(), std::round(box.width() / shape));
+    return fitted.toSize().expandedTo({1, 1});
+}
+
+WholePicture decodePicture(const std::filesystem::path& path, const std::optional<QSizeF>& fitting) {
+    const int turn = pictureTurnBeyondDecoding(path);
+    const bool isOnSide = swapsAxes(turn);
+    WholePicture picture = decodeFile(path, fitting && isOnSide ? fitting->transposed() : fitting);
+    if (turn != 0 && !picture.image.isNull()) {
+        picture.image = turnedByFlip(picture.image, turn);
+        if (isOnSide)
+            picture.size.transpose();
+    }
+    return picture;
 }

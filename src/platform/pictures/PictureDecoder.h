@@ -4,6 +4,9 @@
 #include <QSizeF>
 #include <optional>
 
+/// Whether there is a reader for files that are called so; what is in them it does not tell. Any thread.
+bool canDecodePictures(const std::filesystem::path& named);
+
 /// The largest size of the shape of @p size that fits into @p box, at least one pixel each way.
 QSize fittedPictureSize(const QSize& size, const QSizeF& box);
 

@@ -2,9 +2,9 @@
 
 #include "platform/common/KTLocalizedString.h"
 #include "platform/common/KTText.h"
+#include "platform/pictures/PictureTurn.h"
 
 #include <QColorSpace>
-#include <QTransform>
 #include <algorithm>
 #include <libraw/libraw.h>
 #include <memory>
@@ -86,9 +86,9 @@ bool isRawFileName(const std::filesystem::path& file) {
            std::ranges::count(kRawExtensions, std::string_view(extension).substr(1)) != 0;
 }
 
-QImage turnedByFlip(const QImage& image, int flip) {
-    const QImage mirrored = flip & 3 ? image.mirrored((flip & 1) != 0, (flip & 2) != 0) : image;
-    return flip & 4 ? mirrored.transformed(QTransform(0, 1, 1, 0, 0, 0)) : mirrored;
+int flipOfRawFile(const std::filesystem::path& file) {
+    const auto raw = std::make_unique<LibRaw>();
+    return raw->open_file(file.c_str()) == LIBRAW_SUCCESS ? raw->imgdata.sizes.flip : 0;
 }
 
 DecodedPicture pictureOfRawFile(const std::filesystem::path& file, int edge) {

@@ -20,6 +20,5 @@ DecodedPicture previewOfRawFile(const std::filesystem::path& file, int edge);
 /// on its longer side, else the developed raw data; never one that is too small. Any thread.
 DecodedPicture pictureOfRawFile(const std::filesystem::path& file, int edge);
 
-/// @p image, stored as a sensor saw it, turned by @p flip: bits 1 and 2 mirror it left to right and top to
-/// bottom, then bit 4 swaps its axes.
-QImage turnedByFlip(const QImage& image, int flip);
+/// How both turn what is stored, as turnedByFlip takes it; 0 for a file that is none. Any thread.
+int flipOfRawFile(const std::filesystem::path& file);

@@ -3,6 +3,7 @@
 #include "app/thumbnails/ThumbnailDecoder.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/concurrency/KTThreadPool.h"
+#include "platform/pictures/PictureTurn.h"
 
 #include <QColorSpace>
 #include <QPointer>
@@ -15,9 +16,9 @@ constexpr std::size_t kAtATime = 2;
 /// Any thread.
 SlideShowPictures::Picture pictureOf(const std::filesystem::path& file, const QSize& frame) {
     DecodedPicture decoded = decodePicture(file, std::max(frame.width(), frame.height()));
-    QImage image = std::move(decoded.image);
-    if (image.isNull())
+    if (decoded.image.isNull())
         return {{}, QString::fromStdString(decoded.problem)};
+    QImage image = turnedByFlip(decoded.image, pictureTurnBeyondDecoding(file));
     const QSize size = image.size().scaled(frame, Qt::KeepAspectRatio).expandedTo({1, 1});
     if (size != image.size())
         image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

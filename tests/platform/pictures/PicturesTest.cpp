@@ -2,13 +2,17 @@
 #include "platform/pictures/EmbeddedPreview.h"
 #include "platform/pictures/PictureDecoder.h"
 #include "platform/pictures/PictureResizer.h"
+#include "platform/pictures/PictureTurn.h"
 #include "tests/support/TestSupport.h"
 
+#include <QBuffer>
 #include <QColorSpace>
 #include <QFile>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <lcms2.h>
+
+#include <jpeglib.h> // after what it needs
 
 namespace {
 
@@ -30,6 +34,72 @@ int largestDifference(const QImage& left, const QImage& right) {
                                 std::abs(a.blue() - b.blue())});
         }
     return largest;
+}
+
+QByteArray bytesOf(cmsHPROFILE profile) {
+    cmsUInt32Number length = 0;
+    cmsSaveProfileToMem(profile, nullptr, &length);
+    QByteArray bytes(int(length), '\0');
+    cmsSaveProfileToMem(profile, bytes.data(), &length);
+    cmsCloseProfile(profile);
+    return bytes;
+}
+
+/// A profile for four inks of which the first alone darkens, to grey.
+QByteArray profileOfGreyInk() {
+    cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 2.1);
+    cmsSetDeviceClass(profile, cmsSigOutputClass);
+    cmsSetColorSpace(profile, cmsSigCmykData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    cmsStage* const table = cmsStageAllocCLut16bit(nullptr, 2, 4, 3, nullptr);
+    const auto sampler = [](const cmsUInt16Number from[], cmsUInt16Number to[], void*) -> cmsInt32Number {
+        const cmsCIELab colour = {100 - 100 * (from[0] / 65535.0), 0, 0};
+        cmsFloat2LabEncodedV2(to, &colour);
+        return TRUE;
+    };
+    cmsStageSampleCLut16bit(table, sampler, nullptr, 0);
+    cmsPipeline* const lut = cmsPipelineAlloc(nullptr, 4, 3);
+    cmsPipelineInsertStage(lut, cmsAT_END, table);
+    cmsWriteTag(profile, cmsSigAToB0Tag, lut);
+    cmsPipelineFree(lut);
+    return bytesOf(profile);
+}
+
+/// A JPEG file whose first ink covers half of the paper and the others nothing of it.
+std::string halfInkJPEG(bool isInverted, const QByteArray& profile) {
+    jpeg_compress_struct info;
+    jpeg_error_mgr errors;
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&info);
+    unsigned char* made = nullptr;
+    unsigned long length = 0;
+    jpeg_mem_dest(&info, &made, &length);
+    info.image_width = 64;
+    info.image_height = 32;
+    info.input_components = 4;
+    info.in_color_space = JCS_CMYK;
+    jpeg_set_defaults(&info);
+    jpeg_set_quality(&info, 100, TRUE);
+    info.write_Adobe_marker = boolean(isInverted);
+    jpeg_start_compress(&info, TRUE);
+    if (!profile.isEmpty())
+        jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET*>(profile.constData()),
+                               unsigned(profile.size()));
+    std::vector<JSAMPLE> line;
+    for (int x = 0; x < 64; ++x)
+        for (int ink : {128, 0, 0, 0})
+            line.push_back(JSAMPLE(isInverted ? 255 - ink : ink));
+    while (info.next_scanline < info.image_height) {
+        JSAMPROW row = line.data();
+        jpeg_write_scanlines(&info, &row, 1);
+    }
+    jpeg_finish_compress(&info);
+    jpeg_destroy_compress(&info);
+    std::string result(reinterpret_cast<char*>(made), length);
+    std::free(made);
+    return result;
 }
 
 } // namespace
@@ -95,6 +165,56 @@ TEST(Pictures, AreDecodedUprightAndNoSmallerThanWanted) {
     EXPECT_NE(decodePicture(folder.file("x.nef", "no picture")).problem, "");
 }
 
+TEST(Pictures, AreTurnedOnceByTheSidecarElseByTheFile) {
+    const TemporaryFolder folder;
+    const QImage stored = gradient({64, 32});
+    QByteArray plain;
+    QBuffer buffer(&plain);
+    ASSERT_TRUE(stored.save(&buffer, "JPEG", 100));
+    for (int own = 1; own <= 8; ++own) {
+        QByteArray block("\xff\xe1\0\x22"
+                         "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\0\0\0\0\0\0\0\0",
+                         36);
+        block[28] = char(own);
+        QByteArray content = plain;
+        content.insert(2, block);
+        const auto file = folder.file("a.jpg", {content.data(), std::size_t(content.size())});
+        for (int beside = 0; beside <= 8; ++beside) {
+            const std::string number = std::to_string(beside);
+            folder.file("a.xmp", beside == 0  ? "<rdf:Description tiff:Make='x'/>"
+                                 : beside % 2 ? "<tiff:Orientation>" + number + "</tiff:Orientation>"
+                                              : "<rdf:Description tiff:Orientation=\"" + number + "\"/>");
+            const QImage expected = turnedByFlip(stored, flipOfOrientation(beside == 0 ? own : beside));
+            const WholePicture whole = decodePicture(file);
+            EXPECT_LE(largestDifference(whole.image, expected), 12) << own << ' ' << beside;
+            EXPECT_EQ(whole.size, expected.size());
+            const WholePicture part = decodePicture(file, QSizeF(expected.size()) / 2);
+            EXPECT_EQ(part.image.size(), expected.size() / 2) << own << ' ' << beside;
+        }
+    }
+    for (int flip = 0; flip < 8; ++flip)
+        EXPECT_EQ(largestDifference(turnedByFlip(turnedByFlip(stored, flip), inverseFlip(flip)), stored), 0)
+            << flip;
+}
+
+TEST(Pictures, OfPrintingColoursBecomeSRGBByTheirProfile) {
+    const TemporaryFolder folder;
+    for (const bool isInverted : {false, true}) {
+        const auto plain = decodePicture(folder.file("a.jpg", halfInkJPEG(isInverted, {}))).image;
+        ASSERT_EQ(plain.size(), QSize(64, 32));
+        EXPECT_NEAR(plain.pixelColor(5, 5).red(), 127, 3); // what the ink leaves
+        EXPECT_NEAR(plain.pixelColor(5, 5).blue(), 255, 3);
+        const auto file = folder.file("b.jpg", halfInkJPEG(isInverted, profileOfGreyInk()));
+        const auto grey = decodePicture(file, QSizeF(32, 32)).image;
+        ASSERT_EQ(grey.size(), QSize(32, 16));
+        for (const int part : {grey.pixelColor(5, 5).red(), grey.pixelColor(5, 5).blue()})
+            EXPECT_NEAR(part, 119, 4); // the grey of half the lightness
+        EXPECT_EQ(grey.colorSpace(), QColorSpace(QColorSpace::SRgb));
+        const auto content = halfInkJPEG(isInverted, {});
+        decodePicture(folder.file("c.jpg", content.substr(0, content.size() / 2))); // ends well
+    }
+}
+
 TEST(Pictures, ColoursOfUnknownProfilesAreConverted) {
     const QColorSpace adobe(QColorSpace::AdobeRgb);
     QImage picture(2, 1, QImage::Format_RGB32);
@@ -108,13 +228,8 @@ TEST(Pictures, ColoursOfUnknownProfilesAreConverted) {
 
     QImage other = expected;
     EXPECT_FALSE(convertPictureToSRGB(other, "no profile"));
-    cmsHPROFILE lab = cmsCreateLab2Profile(nullptr);
-    cmsUInt32Number length = 0;
-    cmsSaveProfileToMem(lab, nullptr, &length);
-    QByteArray bytes(int(length), '\0');
-    cmsSaveProfileToMem(lab, bytes.data(), &length);
-    cmsCloseProfile(lab);
-    EXPECT_FALSE(convertPictureToSRGB(other, bytes)); // of other colours than the picture's
+    EXPECT_FALSE(convertPictureToSRGB(
+        other, bytesOf(cmsCreateLab2Profile(nullptr)))); // of other colours than the picture's
     EXPECT_EQ(other, expected);
 }
 

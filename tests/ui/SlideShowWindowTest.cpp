@@ -87,6 +87,8 @@ bool isGreen(const QColor& colour) {
 TEST_F(SlideShowWindowTest, FillsTheScreenAndShowsEachPhotoUpright) {
     add("plain.jpg");
     add("turned.jpg", {{"EXIF:Orientation", KTValue(std::int64_t(6))}}); // to be turned clockwise
+    folder.file("beside.xmp", "<tiff:Orientation>6</tiff:Orientation>");
+    add("beside.jpg");
     QImage wide(64, 32, QImage::Format_RGB32);
     wide.fill(QColor(150, 180, 150));
     wide.setColorSpace(QColorSpace::AdobeRgb);
@@ -100,10 +102,12 @@ TEST_F(SlideShowWindowTest, FillsTheScreenAndShowsEachPhotoUpright) {
     EXPECT_TRUE(isRed(colourAt(0.25, 0.5)));
     EXPECT_TRUE(isGreen(colourAt(0.75, 0.5)));
     EXPECT_EQ(colourAt(0.5, 0.01), QColor(Qt::black));
-    press(Qt::Key_Right);
-    ASSERT_TRUE(isShown("turned.jpg"));
-    EXPECT_TRUE(isRed(colourAt(0.5, 0.2)));
-    EXPECT_TRUE(isGreen(colourAt(0.5, 0.8)));
+    for (const char* name : {"turned.jpg", "beside.jpg"}) {
+        press(Qt::Key_Right);
+        ASSERT_TRUE(isShown(name));
+        EXPECT_TRUE(isRed(colourAt(0.5, 0.2))) << name;
+        EXPECT_TRUE(isGreen(colourAt(0.5, 0.8))) << name;
+    }
     press(Qt::Key_Right);
     ASSERT_TRUE(isShown("wide.png"));
     const QColor seen = colourAt(0.5, 0.5), expected = QColor(137, 181, 153); // the same green in sRGB

@@ -7,9 +7,11 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -43,6 +45,9 @@ PrivacyZonesSheet::PrivacyZonesSheet(QWidget* parent)
     list->setHeaderLabels({uiText("Name"), uiText("Centre"), uiText("Radius")});
     list->setRootIsDecorated(false);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     place->setPlaceholderText("46.05108, 14.50513");
     place->setToolTip(uiText("A position in any notation, or a link to a map"));
     radius->setRange(kLeastRadius, kMostRadius);
@@ -56,8 +61,9 @@ PrivacyZonesSheet::PrivacyZonesSheet(QWidget* parent)
     form->addRow(uiText("Radius:"), radius);
     form->addRow(QString(), hint);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    addButton->setAutoDefault(false);
-    removeButton->setAutoDefault(false);
+    for (QPushButton* const button : {buttons->button(QDialogButtonBox::Close), removeButton})
+        button->setAutoDefault(false); // else Return in a field would close and lose what is typed there
+    addButton->setDefault(true);
     buttons->addButton(addButton, QDialogButtonBox::ActionRole);
     buttons->addButton(removeButton, QDialogButtonBox::ActionRole);
     auto* const layout = new QVBoxLayout(this);
@@ -71,7 +77,10 @@ PrivacyZonesSheet::PrivacyZonesSheet(QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(place, &QLineEdit::textChanged, this, &PrivacyZonesSheet::updateButtons);
     connect(list, &QTreeWidget::itemSelectionChanged, this, &PrivacyZonesSheet::updateButtons);
+    connect(new QShortcut(QKeySequence::Delete, list, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, this, &PrivacyZonesSheet::removeChosen);
     fill();
+    name->setFocus();
 }
 
 /// Entries that cannot be read are shown too: as long as one is there, nothing is exported.
@@ -107,6 +116,7 @@ void PrivacyZonesSheet::add() {
     name->clear();
     place->clear();
     fill();
+    name->setFocus();
 }
 
 void PrivacyZonesSheet::removeChosen() {

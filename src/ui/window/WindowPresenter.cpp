@@ -12,10 +12,14 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr QSize kFileDialog(640, 420);
+constexpr double kShareOfScreen = 0.9;
 
 std::vector<std::filesystem::path> pathsFrom(const QStringList& names) {
     std::vector<std::filesystem::path> result;
@@ -77,6 +81,10 @@ void prepare(QFileDialog& dialog, const KTFilePanel& panel) {
     if (auto* const accessory = static_cast<QWidget*>(panel.accessoryView)) {
         dialog.setOption(QFileDialog::DontUseNativeDialog);
         dialog.layout()->addWidget(accessory);
+        // As much room for the list of folders as without it, where the screen has that.
+        const QSize size =
+            dialog.sizeHint().expandedTo(kFileDialog) + QSize(0, accessory->sizeHint().height());
+        dialog.resize(size.boundedTo(dialog.screen()->availableSize() * kShareOfScreen));
     }
 }
 

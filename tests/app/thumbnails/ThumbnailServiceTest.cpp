@@ -91,6 +91,19 @@ TEST_F(ThumbnailServiceTest, SharesWithOtherProgramsWhatIsValid) {
     EXPECT_TRUE(cache.load(file, ThumbnailSize::Large).isNull()); // the photo has changed
 }
 
+TEST_F(ThumbnailServiceTest, AreTurnedByASidecarBehindTheSharedCache) {
+    const auto file = photo("a.jpg");
+    folder.file("a.xmp", "<rdf:Description tiff:Orientation='8'/>");
+    for (int round = 0; round < 2; ++round) { // made, then from the cache
+        KTThumbnailService service(cache);
+        service.setWishes(this, {{file, 100}});
+        ASSERT_TRUE(waitFor(service, file));
+        EXPECT_EQ(service.thumbnail(file, 100).image.height(), 128);
+        EXPECT_LT(service.thumbnail(file, 100).image.width(), 128);
+    }
+    EXPECT_EQ(cache.load(file, ThumbnailSize::Normal).width(), 128);
+}
+
 TEST_F(ThumbnailServiceTest, ABrokenFileIsNotTriedAgainUntilItChanges) {
     const auto broken = folder.file("a.jpg", "no picture");
     {

@@ -62,6 +62,9 @@ void KTPhotoExportManagerOperation::setMetadata(std::vector<KTExportedField> fie
 }
 
 void KTPhotoExportManagerOperation::main() {
+    started = true; // before the question, so that either side sees what the other one does
+    if (isCancelled())
+        return;
     exportPlugin->performExport();
     if (exportPlugin->hasThrown())
         exportManagerShouldCancelExport();

@@ -56,8 +56,10 @@ public:
     /// Whether any photo could not be exported.
     bool hasFailures() const { return someFailed; }
 
-    /// Lets the plug-in export, now and on this thread.
+    /// Lets the plug-in export, now and on this thread, unless it was cancelled.
     void main() override;
+    /// Once this is false for a cancelled operation, its plug-in's export never begins.
+    bool hasStarted() const { return started; }
 
     std::vector<KTExportedField> metadataFields() const override { return fieldList; }
     std::vector<KTExportedFieldGroup> metadataGroups() const override { return groupList; }
@@ -104,7 +106,7 @@ private:
     KTPhotoExportOptions requested;
     std::shared_ptr<const KTPrivacyZones> zones =
         std::make_shared<const KTPrivacyZones>(KTPrivacyZones::ofUser());
-    std::atomic<bool> someFailed = false;
+    std::atomic<bool> someFailed = false, started = false;
     std::mutex mutex; // guards what follows
     std::set<std::filesystem::path> replaceable, written;
     std::unique_ptr<KTGuardedExportPlugin> exportPlugin; // last, so that it goes first

@@ -155,9 +155,13 @@ void KTPhotoExportOperationController::handleFinishedExportOperation(
 }
 
 void KTPhotoExportOperationController::shouldCancelExportForOperation(const Record& record) {
-    for (const auto& [operation, one] : running)
-        if (one == record)
-            return KTPhotoExportPluginManager::stopOperation(operation);
+    const auto stopped = std::ranges::find(running, record, &decltype(running)::value_type::second);
+    if (stopped == running.end())
+        return;
+    const auto operation = stopped->first; // the map may lose it meanwhile
+    KTPhotoExportPluginManager::stopOperation(operation);
+    if (!operation->hasStarted()) // else it would show as running until its turn comes
+        photoExportPlugins->shouldCancelExportForManager(operation);
 }
 
 void KTPhotoExportOperationController::removeExportOperations(const Records& removed) {

@@ -3,6 +3,8 @@
 #include "tests/export/ExportFixture.h"
 #include "tests/export/ScriptedPlugin.h"
 
+#include <QImage>
+
 namespace {
 
 struct FakeDesktop : KTExportDesktop {
@@ -99,6 +101,9 @@ TEST_F(ExportHistoryTest, StoppedThrownAndCutOffExportsSaySo) {
     const auto waiting = history->exportOperations().back();
     history->removeExportOperations({waiting}); // not while it is in progress
     window->shouldCancelExportForOperation(waiting);
+    EXPECT_FALSE(waiting->inProgress); // at once, not when the first one is over
+    EXPECT_EQ(waiting->resultDescription, "Export canceled.");
+    EXPECT_TRUE(history->exportOperations().front()->inProgress);
     window->shouldCancelExportForOperation(history->exportOperations().front());
     EXPECT_NE(script.events.find("cancelled"), std::string::npos);
     {
@@ -118,6 +123,34 @@ TEST_F(ExportHistoryTest, StoppedThrownAndCutOffExportsSaySo) {
     ASSERT_TRUE(isOver());
     testing::internal::GetCapturedStderr();
     EXPECT_EQ(last().resultDescription, "It failed in performExport: broken.");
+}
+
+TEST_F(ExportHistoryTest, StoppedHalfWayExactlyTheFinishedFilesRemainWhole) {
+    constexpr int kPhotos = 40;
+    for (int number = 0; number < kPhotos; ++number)
+        photos.addNewPhoto(
+            KTPhoto::initWithFile(makePhoto(folder, "photo " + std::to_string(number) + ".jpg")));
+    photos.setSelectedPhotos(*photos.photos());
+    unsetenv("WAYMARK_PLUGINS"); // those that are built with the program
+    EXPECT_EQ(loadAll(), "");
+    exports->setRequestedOptions({{KTImageSizeOption, KTImageSize{1500, 1500}}});
+    exports->shouldBeginExportProcessWithPluginAtIndex(0);
+    ASSERT_EQ(presenter.panels.size(), 1u);
+    const auto out = folder / "out";
+    std::filesystem::create_directory(out);
+    presenter.panels.front().completion({out});
+    const auto made = [&] {
+        return std::distance(std::filesystem::directory_iterator(out), std::filesystem::directory_iterator());
+    };
+    ASSERT_TRUE(runEventLoopUntil([&] { return made() >= 5; }));
+    window->shouldCancelExportForOperation(history->exportOperations().back());
+    ASSERT_TRUE(isOver());
+    EXPECT_LT(made(), kPhotos);
+    EXPECT_EQ(last().resultDescription, "Export canceled. Exported " + std::to_string(made()) + " photos.");
+    for (const auto& entry : std::filesystem::directory_iterator(out)) {
+        EXPECT_EQ(entry.path().extension(), ".jpg") << entry.path();
+        EXPECT_EQ(QImage(QString::fromStdString(entry.path())).width(), 1500) << entry.path();
+    }
 }
 
 TEST_F(ExportHistoryTest, AnExportOnTheMainThreadLeavesNoRecord) {

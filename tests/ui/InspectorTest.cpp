@@ -1,5 +1,6 @@
 #include "app/editor/KTCopiedTags.h"
 #include "app/editor/KTMetadataCustomizationViewController.h"
+#include "platform/desktop/KTMediaObject.h"
 #include "tests/app/editor/EditorFixture.h"
 #include "ui/inspector/ArrangementView.h"
 #include "ui/inspector/FieldLabel.h"
@@ -12,10 +13,15 @@
 #include "ui/inspector/TagLineEdit.h"
 #include "ui/inspector/TagTextEdit.h"
 
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QCompleter>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -88,6 +94,22 @@ protected:
     void leave(QWidget& widget) {
         QTest::keyClick(&widget, Qt::Key_Tab);
         settle();
+    }
+
+    /// The button at the end of a line.
+    static void press(const TagLineEdit& line) {
+        auto* const button = line.findChild<QToolButton*>();
+        ASSERT_TRUE(button != nullptr && button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+    static void click(QAbstractItemView& view, const QModelIndex& index) {
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    }
+    static QLabel* problemIn(const QWidget& row, const char* text) {
+        for (QLabel* const label : row.findChildren<QLabel*>())
+            if (label->isVisible() && label->text().contains(text))
+                return label;
+        return nullptr;
     }
 
     KTMetadataCustomizationViewController customization{editor, KTUserTemplates(folder / "templates")};
@@ -207,13 +229,7 @@ TEST_F(InspectorTest, SaysInPlaceWhatIsNoPositionAndTakesAnyNotation) {
     selectAndSettle({photo});
     show({"latitude", "dateTimeOriginalComponents"});
     auto& latitude = field("Latitude, Tags");
-    auto* const row = pane->findChild<FieldRow*>();
-    auto problem = [&] {
-        for (QLabel* const label : row->findChildren<QLabel*>())
-            if (label->isVisible() && label->text().contains("no latitude"))
-                return true;
-        return false;
-    };
+    auto problem = [&] { return problemIn(*pane, "no latitude") != nullptr; };
     latitude.setFocus();
     QTest::keyClicks(&latitude, "north");
     EXPECT_TRUE(problem());
@@ -232,6 +248,92 @@ TEST_F(InspectorTest, SaysInPlaceWhatIsNoPositionAndTakesAnyNotation) {
     leave(date);
     EXPECT_EQ(date.text(), "2014-05-03");
     EXPECT_EQ(photo->valueForKey("dateTimeOriginalComponents").components()->minute, 41);
+}
+
+TEST_F(InspectorTest, KeepsWhatIsNoValueInViewWithItsError) {
+    const auto photo = add("a.jpg");
+    selectAndSettle({photo});
+    show({"caption", "headline", "keywords", "title", "label", "event", "latitude", "cityCreated"});
+    window.resize(340, 300);
+    auto& latitude = field("Latitude, Tags");
+    auto* const page = pane->findChild<QScrollArea*>();
+    latitude.setFocus();
+    settle();
+    const int lower = latitude.mapTo(page->widget(), QPoint(0, latitude.height())).y();
+    page->verticalScrollBar()->setValue(lower - page->viewport()->height()); // at the very edge
+    QTest::keyClicks(&latitude, "north");
+    settle();
+    const QLabel* const problem = problemIn(*pane, "no latitude");
+    ASSERT_NE(problem, nullptr);
+    EXPECT_EQ(problem->visibleRegion().boundingRect(), problem->rect());
+
+    leave(latitude);
+    leave(*QApplication::focusWidget());
+    EXPECT_EQ(latitude.text(), "north");
+    EXPECT_TRUE(problem->isVisible());
+    EXPECT_FALSE(photo->hasUnsavedChanges());
+    latitude.setFocus();
+    QTest::keyClick(&latitude, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(latitude.text(), "");
+    EXPECT_FALSE(problem->isVisible());
+}
+
+TEST_F(InspectorTest, PicksDatesAndOfferedValuesByMouse) {
+    store.cacheValue("Bled", "City");
+    store.cacheValue("Piran", "City");
+    const auto photo = add("a.jpg", {{"EXIF:DateTimeOriginal", "2014:05:03 17:41:09"}});
+    selectAndSettle({photo});
+    show({"cityCreated", "dateTimeOriginalComponents"});
+    press(field("City, Tags"));
+    QAbstractItemView* const offers = pane->findChild<QCompleter*>()->popup();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(offers));
+    click(*offers, offers->model()->index(1, 0));
+    settle();
+    EXPECT_EQ(textOf(*photo, "cityCreated") + "|" + field("City, Tags").text().toStdString(), "Piran|Piran");
+
+    press(field("Original Date, Tags"));
+    auto* const calendar = pane->findChild<QCalendarWidget*>();
+    ASSERT_TRUE(calendar != nullptr && QTest::qWaitForWindowExposed(calendar));
+    EXPECT_EQ(calendar->selectedDate(), QDate(2014, 5, 3));
+    auto& days = *calendar->findChild<QAbstractItemView*>();
+    QModelIndex day;
+    for (int row = 2; row < days.model()->rowCount() && !day.isValid();
+         ++row)                                                              // the first week may be April's
+        for (int column = 1; column < days.model()->columnCount(); ++column) // 0 counts weeks
+            if (days.model()->index(row, column).data().toInt() == 20)
+                day = days.model()->index(row, column);
+    click(days, day);
+    settle();
+    EXPECT_FALSE(calendar->isVisible());
+    EXPECT_EQ(photo->valueForKey("dateTimeOriginalComponents").components()->xmpString(),
+              "2014:05:20 17:41:09");
+    ASSERT_TRUE(undo->undo() && undo->undo());
+    EXPECT_FALSE(undo->canUndo()) << "two edits";
+}
+
+TEST_F(InspectorTest, TellsWhatGoesToThePhotoLibrary) {
+    auto item = std::make_shared<KTMediaObject>();
+    item->mediaSourceIdentifier = "com.apple.iPhoto";
+    item->URL = makePhoto(folder, "a.jpg");
+    selectAndSettle({add("b.jpg")});
+    show({"title", "label", "keywords", "latitude"});
+    auto signs = [&] {
+        std::string fields;
+        for (const FieldRow* const row : pane->findChildren<FieldRow*>())
+            for (const QLabel* const sign : row->findChildren<QLabel*>())
+                if (sign->isVisible() && sign->accessibleName() == "Photo library")
+                    fields += row->item().representedObject()->key() + " ";
+        return fields;
+    };
+    EXPECT_EQ(signs(), "");
+    const auto taken = KTPhoto::initWithFile(item->URL, {}, item);
+    manager.addNewPhoto(taken);
+    settle();
+    EXPECT_EQ(signs(), "title keywords latitude ");
+    manager.removePhotos({taken});
+    settle();
+    EXPECT_EQ(signs(), "");
 }
 
 TEST_F(InspectorTest, RenamesMovesAndDeletesRowsOfAList) {

@@ -12,10 +12,13 @@ KTAutocompleteValues::KTAutocompleteValues(KTComboBoxStoreController& store, std
     sort();
 }
 
+/// Two fields of one name may each have stored a text.
 void KTAutocompleteValues::sort() {
-    std::ranges::stable_sort(sorted, [](const std::string& left, const std::string& right) {
-        return KTCompareForSorting(left, right) < 0;
+    std::ranges::sort(sorted, [](const std::string& left, const std::string& right) {
+        const int order = KTCompareForSorting(left, right);
+        return order != 0 ? order < 0 : left < right;
     });
+    sorted.erase(std::ranges::unique(sorted).begin(), sorted.end());
 }
 
 void KTAutocompleteValues::add(const std::string& typed) {

@@ -10,6 +10,7 @@
 #include "platform/common/KTTimeZoneManager.h"
 
 #include <algorithm>
+#include <regex>
 
 namespace {
 
@@ -35,6 +36,14 @@ std::string isoText(const KTDateComponents& date) {
     std::replace(text.begin(), text.begin() + std::ptrdiff_t(std::min<std::size_t>(text.size(), 10)), ':',
                  '-');
     return text;
+}
+
+/// Files may hold dates of all kinds, but "09:04:12" typed as a time is not the year 9.
+bool isDate(std::string_view typed) {
+    static const std::regex date(
+        "[0-9]{4}([-:][0-9]{1,2}){0,2}"
+        "([ T]+[0-9]{1,2}(:[0-9]{1,2}){0,2}(\\.[0-9]+)? *([Zz]|[-+][0-9]{2}:?[0-9]{2})?)?");
+    return std::regex_match(typed.begin(), typed.end(), date);
 }
 
 KTTimeZone displayZone() {
@@ -93,7 +102,7 @@ Parsed KTFieldText::parse(const KTMetadataField& field, std::string_view text) {
 }
 
 Parsed KTFieldText::parseDate(const KTMetadataField& field, std::string_view text) {
-    auto date = KTDateComponents::dateComponentsWithString(text);
+    auto date = isDate(text) ? KTDateComponents::dateComponentsWithString(text) : std::nullopt;
     const bool hasTimeWithoutDay =
         date && date->day == KTDateComponents::kUndefined && date->hour != KTDateComponents::kUndefined;
     if (!date || hasTimeWithoutDay)

@@ -26,6 +26,7 @@ void KTMetadataFieldArrayViewItem::follow(const KTChange& change) {
     if (change.isPrior)
         return;
     if (change.key == "photos") {
+        forgetTyped();
         announceValue();
         willChange("isEditable");
         didChange("isEditable");
@@ -34,8 +35,15 @@ void KTMetadataFieldArrayViewItem::follow(const KTChange& change) {
         willChange("hasUnsavedEdit");
         didChange("hasUnsavedEdit");
     } else if (std::ranges::count(keys(), change.key) != 0) {
+        if (typing && !isEditing() && editingTexts() != textsBefore)
+            forgetTyped(); // what the photos have now is to be seen
         announceValue();
     }
+}
+
+void KTMetadataFieldArrayViewItem::forgetTyped() {
+    typing.reset();
+    whyNot.clear();
 }
 
 void KTMetadataFieldArrayViewItem::announceValue() {
@@ -65,9 +73,14 @@ void KTMetadataFieldArrayViewItem::renameLabel(std::string newLabel) {
 
 void KTMetadataFieldArrayViewItem::setInCustomizationMode(bool isInMode) {
     endEditing();
+    forgetTyped();
     willChange("isEditable");
     isCustomized = isInMode;
     didChange("isEditable");
+}
+
+bool KTMetadataFieldArrayViewItem::hasSyncingView() const {
+    return choice.kind == Kind::MultipleValue || field->iPhotoSupported();
 }
 
 bool KTMetadataFieldArrayViewItem::isSyncingViewHidden() const {
@@ -115,20 +128,23 @@ void KTMetadataFieldArrayViewItem::beginEditing() {
     const bool isText = choice.kind == Kind::TextField || choice.kind == Kind::ComboBox ||
                         choice.kind == Kind::ResizeableTextView;
     edit = std::make_shared<KTFieldEdit>(selection.photoManager(), selection.photos(), actionName(), isText);
-    textsBefore = editingTexts();
     selection.beginEdit({.owner = this,
                          .commit = [edit = edit] { edit->commit(); },
                          .cancel = [edit = edit] { edit->cancel(); },
-                         .didEnd =
-                             [this] {
-                                 const bool isValue = whyNot.empty();
-                                 edit.reset();
-                                 whyNot.clear();
-                                 if (const auto typed = std::exchange(typing, std::nullopt); typed && isValue)
-                                     didCommit(typed->texts[First]);
-                                 announceValue();
-                             }});
+                         .didEnd = [this] { didEndEditing(); }});
+    if (typing)
+        return; // on with what was no value
+    textsBefore = editingTexts();
     typing = Typed{textsBefore};
+}
+
+/// A text that is no value stays in the editor.
+void KTMetadataFieldArrayViewItem::didEndEditing() {
+    edit.reset();
+    if (whyNot.empty())
+        if (const auto typed = std::exchange(typing, std::nullopt))
+            didCommit(typed->texts[First]);
+    announceValue();
 }
 
 void KTMetadataFieldArrayViewItem::setText(std::string typed, Half half) {
@@ -152,16 +168,19 @@ void KTMetadataFieldArrayViewItem::endEditing() {
 }
 
 void KTMetadataFieldArrayViewItem::cancelEditing() {
-    if (!isEditing())
-        return;
-    typing.reset();
-    selection.cancelPendingEdit();
+    const bool hasTyped = typing.has_value();
+    forgetTyped();
+    if (isEditing())
+        selection.cancelPendingEdit();
+    else if (hasTyped)
+        announceValue();
 }
 
 void KTMetadataFieldArrayViewItem::setValue(const KTValue& value) {
     if (!isEditable())
         return;
     selection.commitPendingEdit();
+    cancelEditing();
     KTFieldEdit once(selection.photoManager(), selection.photos(), actionName(), false);
     KTValue::Dictionary values;
     for (const std::string& key : keys())
@@ -178,7 +197,8 @@ bool KTMetadataFieldArrayViewItem::hasUnsavedEdit() const {
 }
 
 void KTMetadataFieldArrayViewItem::revertToSaved() {
-    selection.cancelPendingEdit();
+    cancelEditing();
+    selection.commitPendingEdit(); // of another field
     KTFieldEdit once(selection.photoManager(), selection.photos(), KTLocalizedString("Revert to Saved"),
                      false);
     once.update([keys = keys()](const KTPhoto& photo) {

@@ -41,7 +41,9 @@ public:
     bool canRenameLabel() const { return mayRename; }
     void setCanRenameLabel(bool canRename) { mayRename = canRename; }
     void renameLabel(std::string newLabel);
-    /// Whether the sign for "goes to the photo library" is hidden.
+    /// Whether the field carries a sign while photos of a photo library are loaded: those that the library
+    /// takes, and lists.
+    bool hasSyncingView() const;
     bool isSyncingViewHidden() const;
 
     // What the selected photos have
@@ -60,7 +62,8 @@ public:
     /// Takes what was typed. A text that is no value of the field stays in the editor and writes nothing;
     /// `problem` says why. In a field whose photos differ an empty text is not an edit: clearValue is.
     void setText(std::string typed, Half half = First);
-    /// Commits what was typed; a text that is no value is given up.
+    /// Commits what was typed. A text that is no value stays in the editor with its `problem`, until it is
+    /// typed on or given up, other photos are selected, or these get another value; it is no pending edit.
     void endEditing();
     /// Gives up what was typed.
     void cancelEditing();
@@ -99,12 +102,14 @@ protected:
 
 private:
     void beginEditing();
+    void didEndEditing();
+    void forgetTyped();
     void follow(const KTChange& change);
 
     const KTMetadataFieldItemChoice choice;
     bool isCustomized = false, mayRename = false;
-    std::optional<Typed> typing; // while something is being typed
-    Texts textsBefore;           // as they were then
+    std::optional<Typed> typing; // while something is being typed, and after it if it is no value
+    Texts textsBefore;           // as they were when it began
     std::string whyNot;
     std::shared_ptr<KTFieldEdit> edit; // while something is being typed
     Observation selectionObservation, managerObservation;

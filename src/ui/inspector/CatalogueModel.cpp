@@ -17,6 +17,7 @@ constexpr int kKeyRole = Qt::UserRole;
 
 CatalogueModel::CatalogueModel(KTMetadataEditorViewController& controller, QObject* parent)
     : QStandardItemModel(parent), editor(controller) {
+    setHorizontalHeaderLabels({uiText("All Fields")});
     for (const auto& group : KTMetadataFieldManager::sharedMetadataFieldManager().metadataGroups()) {
         auto* const groupRow = new QStandardItem(QString::fromStdString(group->name()));
         groupRow->setFlags(Qt::ItemIsEnabled);

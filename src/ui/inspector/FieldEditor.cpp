@@ -1,6 +1,7 @@
 #include "ui/inspector/FieldEditor.h"
 
 #include "app/editor/KTMetadataFieldMultipleValueArrayViewItem.h"
+#include "ui/inspector/FieldLabel.h"
 #include "ui/inspector/LineFieldEditor.h"
 #include "ui/inspector/ListFieldEditor.h"
 #include "ui/inspector/MarkedFieldEditor.h"
@@ -33,7 +34,8 @@ FieldEditor* FieldEditor::make(Item& item) {
 void FieldEditor::setNames(const QString& name, const QString& secondName, const QString& help) {
     bool isFirst = true;
     for (QWidget* const field : fields()) {
-        field->setAccessibleName(std::exchange(isFirst, false) ? name : secondName);
-        field->setToolTip(help);
+        const QString& ofField = std::exchange(isFirst, false) ? name : secondName;
+        field->setAccessibleName(ofField);
+        field->setToolTip(FieldLabel::bubble(ofField, help));
     }
 }

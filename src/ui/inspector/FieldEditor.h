@@ -16,7 +16,7 @@ public:
     virtual void showValue() = 0;
     /// What the keyboard reaches, in its order; of the latitude's and the date's editor two.
     virtual QList<QWidget*> fields() const = 0;
-    /// Names the fields for those who do not see their label.
+    /// Names the fields for those who do not see their label, and explains them in bubbles.
     virtual void setNames(const QString& name, const QString& secondName, const QString& help);
 
 protected:

@@ -32,15 +32,16 @@ void FieldLabel::setHelp(const QString& text) {
     showBubble();
 }
 
-/// As rich text, so that long ones are wrapped.
+QString FieldLabel::bubble(const QString& title, const QString& help) {
+    return "<p><b>" + title.toHtmlEscaped() + "</b></p>" +
+           (help.isEmpty() ? QString() : "<p>" + help.toHtmlEscaped() + "</p>");
+}
+
 void FieldLabel::showBubble() {
-    QString bubble = "<p><b>" + text().toHtmlEscaped() + "</b></p>";
-    if (!help.isEmpty())
-        bubble += "<p>" + help.toHtmlEscaped() + "</p>";
+    QString shown = bubble(text(), help);
     if (isUnsaved)
-        bubble +=
-            "<p>" + uiText("This field has changes that are not saved. Its menu reverts them.") + "</p>";
-    setToolTip(bubble);
+        shown += "<p>" + uiText("This field has changes that are not saved. Its menu reverts them.") + "</p>";
+    setToolTip(shown);
 }
 
 void FieldLabel::paintEvent(QPaintEvent* event) {

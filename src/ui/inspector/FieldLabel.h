@@ -11,6 +11,8 @@ public:
     void setUnsaved(bool isUnsavedNow);
     /// What the bubble says: the name, what the field is for, and whether it has an unsaved edit.
     void setHelp(const QString& text);
+    /// The name and the help as rich text, so that long ones are wrapped.
+    static QString bubble(const QString& title, const QString& help);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -13,8 +13,12 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QTimer>
 
 namespace {
+
+constexpr int kSyncingEdge = 16, kRoomAround = 6;
 
 /// Where the text of a line stands below its upper edge, so that the label stands as high.
 int textInset(const QWidget& widget) {
@@ -30,6 +34,20 @@ QMenu* standardMenuOf(QWidget& field, QPoint place) {
     return nullptr;
 }
 
+/// Tells what becomes of the field in a photo library.
+QLabel* syncingSign(const FieldRow::Item& item, const QWidget& row) {
+    const bool isTaken = item.representedObject()->iPhotoSupported();
+    auto* const sign = new QLabel;
+    const QIcon icon = QIcon::fromTheme("folder-sync");
+    sign->setPixmap(icon.pixmap(QSize(kSyncingEdge, kSyncingEdge), row.devicePixelRatioF()));
+    sign->setContentsMargins(0, textInset(row), 0, 0);
+    sign->setAccessibleName(uiText("Photo library"));
+    sign->setToolTip(isTaken ? uiText("Saving changes this field in the photo library, too")
+                             : uiText("Saving writes this list into files only, not into the photo library"));
+    sign->hide();
+    return sign;
+}
+
 } // namespace
 
 FieldRow::FieldRow(std::unique_ptr<Item> edited, const QString& group, RowUpdates& rowUpdates)
@@ -43,6 +61,8 @@ FieldRow::FieldRow(std::unique_ptr<Item> edited, const QString& group, RowUpdate
     grid->addWidget(label, 0, 0, Qt::AlignTop);
     grid->addWidget(editor, 0, 1);
     grid->addWidget(problem, 1, 1);
+    if (fieldItem->hasSyncingView())
+        grid->addWidget(syncing = syncingSign(*fieldItem, *this), 0, 2, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
     label->setBuddy(editor->fields().first());
     problem->setWordWrap(true);
@@ -70,7 +90,7 @@ void FieldRow::showLabel() {
     label->setText(name);
     label->setHelp(help);
     const auto inGroup = [this](const QString& text) { return text + ", " + groupName; };
-    editor->setNames(inGroup(name), inGroup(second.isEmpty() ? name : second), label->toolTip());
+    editor->setNames(inGroup(name), inGroup(second.isEmpty() ? name : second), help);
 }
 
 void FieldRow::itemDidChange(std::string_view key) {
@@ -101,6 +121,19 @@ void FieldRow::bringUpToDate() {
     problem->setPalette(warning);
     problem->setText(why.isEmpty() ? why : "⚠ " + why);
     problem->setVisible(!why.isEmpty());
+    if (syncing != nullptr)
+        syncing->setVisible(!fieldItem->isSyncingViewHidden());
+}
+
+/// What comes below the edge of the page while one types is scrolled to, once the page knows its new height.
+void FieldRow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    QTimer::singleShot(0, this, [this] {
+        const QWidget* const focus = QApplication::focusWidget();
+        for (QWidget* outer = parentWidget(); outer != nullptr; outer = outer->parentWidget())
+            if (auto* const page = qobject_cast<QScrollArea*>(outer); page && focus && isAncestorOf(focus))
+                return page->ensureWidgetVisible(this, 0, kRoomAround);
+    });
 }
 
 void FieldRow::showEvent(QShowEvent* event) {
@@ -132,7 +165,8 @@ void FieldRow::showMenu(QMenu* menu, QPoint place) {
     if (!menu->isEmpty())
         menu->addSeparator();
     QAction* const revert = menu->addAction(uiText("Revert to Saved"));
-    revert->setEnabled(fieldItem->hasUnsavedEdit() || fieldItem->isEditing());
+    revert->setEnabled(fieldItem->hasUnsavedEdit() || fieldItem->isEditing() ||
+                       !fieldItem->problem().empty());
     connect(revert, &QAction::triggered, this, [this] { fieldItem->revertToSaved(); });
     QAction* const clear = menu->addAction(uiText("Clear Value"));
     clear->setEnabled(fieldItem->isEditable() &&

@@ -28,6 +28,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -40,7 +41,7 @@ private:
     const QString groupName;
     RowUpdates& updates;
     FieldLabel* label;
-    QLabel* problem;
+    QLabel *problem, *syncing = nullptr;
     FieldEditor* editor;
     bool isDue = true;
     KTObservable::Observation observation;

@@ -128,6 +128,10 @@ QVariant GroupTreeModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
+QVariant GroupTreeModel::headerData(int, Qt::Orientation, int role) const {
+    return role == Qt::DisplayRole ? QVariant(uiText("Groups and Fields")) : QVariant();
+}
+
 bool GroupTreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::EditRole || !index.isValid())
         return false;

@@ -22,11 +22,7 @@ constexpr int kMostShownOffers = 12;
 void connectLine(TagLineEdit& line, Item& item, Item::Half half) {
     QObject::connect(&line, &QLineEdit::textEdited, &line,
                      [&item, half](const QString& text) { item.setText(text.toStdString(), half); });
-    // What is no value is given up when one leaves the field, not by the Return key.
-    QObject::connect(&line, &QLineEdit::editingFinished, &line, [&line, &item] {
-        if (!line.hasFocus() || item.problem().empty())
-            item.endEditing();
-    });
+    QObject::connect(&line, &QLineEdit::editingFinished, &line, [&item] { item.endEditing(); });
     QObject::connect(&line, &TagLineEdit::cancelled, &line, [&item] { item.cancelEditing(); });
 }
 

@@ -197,11 +197,18 @@ TEST_F(FieldItems, DatesAreTypedInHalvesOrWhole) {
     date->setText("nonsense");
     EXPECT_EQ(date->text(), "nonsense");
     date->endEditing();
-    EXPECT_EQ(reading(a), "2014:05:03 14:41:09") << "given up";
+    EXPECT_EQ(reading(a), "2014:05:03 14:41:09") << "nothing is written";
     date->setText("2014-05", First);
     date->setText("", Second);
     date->endEditing();
     EXPECT_EQ(reading(c), "2014:05");
+
+    for (const char* typed :
+         {"09:04:12", "2014-05-03x", "14-05-03", "2014-05-03 10:00:00 noon", "2014-02-30"}) {
+        date->setText(typed);
+        EXPECT_NE(date->problem(), "") << typed;
+    }
+    date->cancelEditing();
 
     select({a});
     const auto created = item("creationDate");
@@ -209,6 +216,55 @@ TEST_F(FieldItems, DatesAreTypedInHalvesOrWhole) {
     created->setText("", Second);
     EXPECT_NE(created->problem(), "") << "an instant needs a time";
     created->cancelEditing();
+}
+
+TEST_F(FieldItems, WhatIsNoValueStaysToBePutRight) {
+    const auto a = add("a.jpg"), b = add("b.jpg");
+    using enum KTMetadataFieldArrayViewItem::Half;
+    const auto date = item("dateTimeOriginalComponents"), title = item("title"), place = item("latitude");
+    auto isKept = [&] { return date->text(Second) == "17:4x" && !date->problem().empty(); };
+    select({a});
+    date->setText("17:4x", Second);
+    date->endEditing();
+    EXPECT_TRUE(isKept() && !date->isEditing());
+    title->setText("Ford"); // another field is typed, and commands are given
+    editor.commitEditing();
+    undo->undo();
+    turn();
+    EXPECT_TRUE(isKept());
+    EXPECT_FALSE(a->hasUnsavedChanges());
+    date->setText("2014-05-03", First);
+    EXPECT_NE(date->problem(), "") << "the other half is as it was typed";
+    date->endEditing();
+    date->setText("17:41:09", Second);
+    date->endEditing();
+    EXPECT_EQ(date->problem() + date->text(First) + date->text(Second), "2014-05-0317:41:09");
+    EXPECT_EQ(a->valueForKey("dateTimeOriginalComponents").components()->second, 9);
+    ASSERT_TRUE(undo->undo());
+    EXPECT_FALSE(undo->canUndo()) << "one edit, one step";
+
+    auto type = [&] {
+        turn();
+        place->setText("north");
+        place->endEditing();
+        EXPECT_EQ(place->text(), "north");
+    };
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"given up", [&] { place->cancelEditing(); }},
+        {"other photos", [&] { select({b}); }},
+        {"other value", [&] { b->setValueForKey("latitude", *KTDecimal::fromText("46")); }},
+        {"another one set", [&] { place->clearValue(); }},
+        {"reverted", [&] { place->revertToSaved(); }}};
+    for (const auto& [what, end] : ends) {
+        type();
+        end();
+        turn();
+        EXPECT_EQ(place->problem(), "") << what;
+        EXPECT_NE(place->text(), "north") << what;
+    }
+    title->setText("Bridge");
+    place->revertToSaved();
+    EXPECT_EQ(textOf(*b, "title"), "Bridge") << "of another field";
 }
 
 TEST_F(FieldItems, PositionsAreTypedInHalvesOrPasted) {
@@ -252,6 +308,7 @@ TEST_F(FieldItems, HeightsRatingsAndStatuses) {
             EXPECT_EQ(a->decimalForKey("altitude"), KTDecimal::fromText(metres)) << typed;
         }
     }
+    altitude->cancelEditing();
     EXPECT_EQ(altitude->text(), "-12.5 m");
     KTUnitConverter::sharedUnitConverter().setDistanceUnits(KTUnitConverter::Units::Imperial);
     EXPECT_EQ(altitude->text(), "-41.01 ft");
@@ -292,6 +349,8 @@ TEST_F(FieldItems, CountriesByLettersOrName) {
             EXPECT_EQ(textOf(*a, "countryCodeCreated"), code);
         }
     }
+    EXPECT_EQ(country->countryName(), "");
+    country->cancelEditing();
     EXPECT_EQ(country->countryName(), "Slovenia");
     EXPECT_EQ(country->firstValueMatchingPrefix("slov"), "slovakia") << "the typed letters stay";
     EXPECT_GT(country->comboBoxArray().size(), 240u);
@@ -308,6 +367,7 @@ TEST_F(FieldItems, TypedTextsAreOfferedAgain) {
     EXPECT_EQ(event->comboBoxArray(), (std::vector<std::string>{"Oslo", "Paris"}));
     EXPECT_EQ(store.cacheArrayForKey("Event"), (std::vector<std::string>{"Paris", "Oslo"}));
     EXPECT_EQ(event->firstValueMatchingPrefix("PA"), "PAris");
+    store.cacheValue("Oslo", "Event"); // by another field of that name
     EXPECT_EQ(item<KTMetadataFieldComboBoxArrayViewItem>("event")->comboBoxArray(), event->comboBoxArray());
 }
 

@@ -175,8 +175,9 @@ void CoverFlowView::paintEvent(QPaintEvent*) {
     const CoverFlowGeometry geometry(size());
     const auto nearest = std::ptrdiff_t(std::round(position));
     pictures.beginFrame(kTimeForPictures);
-    // What is nearest is made first, and drawn last.
-    pictures.view(*(*photos)[std::size_t(nearest)], geometry.placeAt(double(nearest) - position));
+    for (std::ptrdiff_t distance = 0; distance <= geometry.reach(); ++distance) // nearest first made
+        for (const std::ptrdiff_t index : {nearest - distance, nearest + distance})
+            viewOf(geometry, index);
     for (std::ptrdiff_t distance = geometry.reach(); distance > 0; --distance) {
         drawPhoto(painter, geometry, nearest - distance);
         drawPhoto(painter, geometry, nearest + distance);
@@ -187,13 +188,18 @@ void CoverFlowView::paintEvent(QPaintEvent*) {
         update();
 }
 
-void CoverFlowView::drawPhoto(QPainter& painter, const CoverFlowGeometry& geometry, std::ptrdiff_t index) {
+/// Null outside of the photos, and for what there was no time for.
+const StandingPicture::View* CoverFlowView::viewOf(const CoverFlowGeometry& geometry, std::ptrdiff_t index) {
     if (index < 0 || index >= std::ptrdiff_t(count()))
-        return;
-    const auto place = geometry.placeAt(double(index) - position);
-    const StandingPicture::View* const view = pictures.view(*(*photos)[std::size_t(index)], place);
+        return nullptr;
+    return pictures.view(*(*photos)[std::size_t(index)], geometry.placeAt(double(index) - position));
+}
+
+void CoverFlowView::drawPhoto(QPainter& painter, const CoverFlowGeometry& geometry, std::ptrdiff_t index) {
+    const StandingPicture::View* const view = viewOf(geometry, index);
     if (view == nullptr)
         return;
+    const auto place = geometry.placeAt(double(index) - position);
     const double ratio = devicePixelRatioF();
     const QPointF foot(std::round(place.centre * ratio) / ratio, geometry.floor());
     const QRectF area(foot + QPointF(view->origin) / ratio, QSizeF(view->image.size()) / ratio);

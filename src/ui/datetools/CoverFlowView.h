@@ -52,6 +52,7 @@ private:
     void wish();
     void renewLook();
     void drawGround(QPainter& painter) const;
+    const StandingPicture::View* viewOf(const CoverFlowGeometry& geometry, std::ptrdiff_t index);
     void drawPhoto(QPainter& painter, const CoverFlowGeometry& geometry, std::ptrdiff_t index);
     void drawFocus(QPainter& painter) const;
 

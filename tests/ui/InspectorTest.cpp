@@ -20,6 +20,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -293,8 +295,8 @@ TEST_F(InspectorTest, PicksDatesAndOfferedValuesByMouse) {
     EXPECT_EQ(textOf(*photo, "cityCreated") + "|" + field("City, Tags").text().toStdString(), "Piran|Piran");
 
     press(field("Original Date, Tags"));
-    auto* const calendar = pane->findChild<QCalendarWidget*>();
-    ASSERT_TRUE(calendar != nullptr && QTest::qWaitForWindowExposed(calendar));
+    const QPointer calendar = pane->findChild<QCalendarWidget*>();
+    ASSERT_TRUE(calendar && QTest::qWaitForWindowExposed(calendar.get()));
     EXPECT_EQ(calendar->selectedDate(), QDate(2014, 5, 3));
     auto& days = *calendar->findChild<QAbstractItemView*>();
     QModelIndex day;
@@ -305,7 +307,7 @@ TEST_F(InspectorTest, PicksDatesAndOfferedValuesByMouse) {
                 day = days.model()->index(row, column);
     click(days, day);
     settle();
-    EXPECT_FALSE(calendar->isVisible());
+    EXPECT_FALSE(calendar && calendar->isVisible());
     EXPECT_EQ(photo->valueForKey("dateTimeOriginalComponents").components()->xmpString(),
               "2014:05:20 17:41:09");
     ASSERT_TRUE(undo->undo() && undo->undo());
@@ -440,6 +442,21 @@ TEST_F(InspectorTest, IsCustomizedByNameAndDrag) {
     all.setCurrentIndex(rating);
     QTest::keyClick(&all, Qt::Key_Return);
     EXPECT_EQ(rating.data().toString(), "Rating (shown)");
+    const QModelIndex organization = rating.parent();
+    const std::unique_ptr<QMimeData> draggedGroup(all.model()->mimeData({organization}));
+    EXPECT_TRUE(model.dropMimeData(draggedGroup.get(), Qt::CopyAction, 0, 0, {}));
+    EXPECT_EQ(model.index(0, 0).data(), organization.data());
+    tree.setCurrentIndex(model.index(0, 0));
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_EQ(model.index(0, 0).data().toString(), "Name & Date");
+    tree.setCurrentIndex(model.index(0, 0, model.index(2, 0)));
+    all.setCurrentIndex(organization);
+    for (QPushButton* const button : arrangement->findChildren<QPushButton*>())
+        if (button->text() == "Add Whole Group")
+            QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(model.index(3, 0).data(), organization.data());
+    tree.setCurrentIndex(model.index(3, 0));
+    QTest::keyClick(&tree, Qt::Key_Delete);
 
     editor.setInCustomizationMode(false);
     ASSERT_TRUE(runEventLoopUntil([&] { return pane->isFilled(); }));

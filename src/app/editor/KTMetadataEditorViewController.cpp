@@ -126,6 +126,18 @@ KTMetadataEditorViewController::Group KTMetadataEditorViewController::addGroup()
     return group;
 }
 
+KTMetadataEditorViewController::Group
+KTMetadataEditorViewController::addCatalogueGroup(const KTMetadataGroup& ofCatalogue, std::size_t atIndex) {
+    auto group = KTMetadataGroup::initWithName(ofCatalogue.name());
+    for (const auto& field : ofCatalogue.fields())
+        if (KTMetadataFieldItemFor(*field))
+            group->addField(field->copy());
+    changeGroups([&](Groups& groups) {
+        groups.insert(groups.begin() + std::ptrdiff_t(std::min(atIndex, groups.size())), group);
+    });
+    return group;
+}
+
 /// By value: the caller may name an element of the list.
 void KTMetadataEditorViewController::removeGroup(Group group) {
     changeGroups([&](Groups& groups) { std::erase(groups, group); });

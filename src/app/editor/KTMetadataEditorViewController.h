@@ -43,6 +43,9 @@ public:
     void renameField(KTMetadataField& field, std::string name);
     /// A new group, "Untitled", at the end.
     Group addGroup();
+    /// A copy of a group of the catalogue, with those of its fields that have an editor, before the group at
+    /// @p atIndex or at the end.
+    Group addCatalogueGroup(const KTMetadataGroup& ofCatalogue, std::size_t atIndex);
     void removeGroup(Group group);
     void moveGroup(std::size_t from, std::size_t toIndex);
     /// Adds the catalogue's field of that key; false for an unknown one, and for one without editor.

@@ -108,8 +108,11 @@ QWidget* ArrangementView::makeCatalogue() {
     catalogueTree->setDragDropMode(QAbstractItemView::DragOnly);
     catalogueTree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     catalogueTree->installEventFilter(this);
-    connect(catalogueTree, &QTreeView::doubleClicked, this, &ArrangementView::addFields);
-    connect(catalogueTree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+    connect(catalogueTree, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!CatalogueModel::groupAt(index)) // which is opened
+            add();
+    });
+    connect(catalogueTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ArrangementView::enableButtons);
     auto* const search = new QLineEdit;
     search->setAccessibleName(uiText("Search fields"));
@@ -120,8 +123,7 @@ QWidget* ArrangementView::makeCatalogue() {
         narrowed->setFilterFixedString(text.trimmed());
         text.trimmed().isEmpty() ? catalogueTree->collapseAll() : catalogueTree->expandAll();
     });
-    addButton = makeButton(uiText("Add Field"), uiText("Adds the field to the group that is chosen above"),
-                           &ArrangementView::addFields);
+    addButton = makeButton({}, {}, &ArrangementView::add);
     auto* const part = new QWidget;
     auto* const layout = new QVBoxLayout(part);
     layout->setContentsMargins(0, 6, 0, 0);
@@ -136,8 +138,12 @@ void ArrangementView::enableButtons() {
     if (addButton == nullptr || removeButton == nullptr)
         return;
     removeButton->setEnabled(groupTree->currentIndex().isValid());
-    addButton->setEnabled(!CatalogueModel::keyAt(catalogueTree->currentIndex()).empty() &&
-                          !editor.groups().empty());
+    const QModelIndex chosen = catalogueTree->currentIndex();
+    const bool isGroup = CatalogueModel::groupAt(chosen) != nullptr;
+    addButton->setText(isGroup ? uiText("Add Whole Group") : uiText("Add Field"));
+    addButton->setToolTip(isGroup ? uiText("Adds the group with all its fields")
+                                  : uiText("Adds the field to the group that is chosen above"));
+    addButton->setEnabled(isGroup || (!CatalogueModel::keyAt(chosen).empty() && !editor.groups().empty()));
 }
 
 void ArrangementView::addGroup() {
@@ -147,8 +153,20 @@ void ArrangementView::addGroup() {
     groupTree->edit(added);
 }
 
-/// After the field that is chosen above, or at the end of the chosen group, else of the last one.
-void ArrangementView::addFields() {
+/// After the group that is chosen above, else at the end.
+void ArrangementView::addChosenGroup(const KTMetadataGroup& group) {
+    const QModelIndex current = groupTree->currentIndex();
+    const QModelIndex before = current.parent().isValid() ? current.parent() : current;
+    const int row = before.isValid() ? before.row() + 1 : groups->rowCount();
+    editor.addCatalogueGroup(group, std::size_t(row));
+    groupTree->setCurrentIndex(groups->index(row, 0));
+    groupTree->scrollTo(groupTree->currentIndex(), QAbstractItemView::PositionAtTop);
+}
+
+/// A field after the one that is chosen above, or at the end of the chosen group, else of the last one.
+void ArrangementView::add() {
+    if (const auto group = CatalogueModel::groupAt(catalogueTree->currentIndex()))
+        return addChosenGroup(*group);
     const std::string key = CatalogueModel::keyAt(catalogueTree->currentIndex());
     if (key.empty() || editor.groups().empty())
         return;
@@ -175,7 +193,7 @@ bool ArrangementView::eventFilter(QObject* watched, QEvent* event) {
     const bool isUp = key.key() == Qt::Key_Up;
     const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (watched == catalogueTree && isReturn)
-        addFields();
+        add();
     else if (watched == groupTree && key.key() == Qt::Key_Delete)
         remove();
     else if (watched == groupTree && (isUp || key.key() == Qt::Key_Down) &&

@@ -7,12 +7,13 @@
 class CatalogueModel;
 class GroupTreeModel;
 class KTMetadataEditorViewController;
+class KTMetadataGroup;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTreeView;
 
 /// Where the inspector is customised: above its groups and fields, which are renamed, moved, removed and
-/// dragged; below all fields of the catalogue, from which they are added.
+/// dragged; below all groups and fields of the catalogue, from which they are added.
 class ArrangementView : public QWidget {
     Q_OBJECT
 public:
@@ -26,7 +27,8 @@ private:
     QWidget* makeGroups();
     QWidget* makeCatalogue();
     void addGroup();
-    void addFields();
+    void add();
+    void addChosenGroup(const KTMetadataGroup& group);
     void remove();
     void move(bool isUp);
     void enableButtons();

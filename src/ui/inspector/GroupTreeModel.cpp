@@ -2,6 +2,7 @@
 
 #include "app/editor/KTMetadataEditorViewController.h"
 #include "app/editor/KTMetadataFieldArrayViewItem.h"
+#include "ui/inspector/CatalogueModel.h"
 #include "ui/support/ObservationLink.h"
 #include "ui/support/UIText.h"
 
@@ -152,7 +153,7 @@ Qt::ItemFlags GroupTreeModel::flags(const QModelIndex& index) const {
 }
 
 QStringList GroupTreeModel::mimeTypes() const {
-    return {fieldType(), kGroupType};
+    return {fieldType(), kGroupType, CatalogueModel::kGroupType};
 }
 
 QMimeData* GroupTreeModel::mimeData(const QModelIndexList& indexes) const {
@@ -166,16 +167,24 @@ QMimeData* GroupTreeModel::mimeData(const QModelIndexList& indexes) const {
     return data;
 }
 
+bool GroupTreeModel::dropGroup(const QMimeData& data, int before) {
+    if (!data.hasFormat(kGroupType)) {
+        const auto added = CatalogueModel::draggedGroup(data);
+        return added && editor.addCatalogueGroup(*added, std::size_t(before));
+    }
+    const int from = data.data(kGroupType).toInt();
+    editor.moveGroup(std::size_t(from), std::size_t(std::max(0, from < before ? before - 1 : before)));
+    return true;
+}
+
 /// A field before the row where it is dropped; onto a group at its end. A group before another group.
 bool GroupTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction, int row, int,
                                   const QModelIndex& parent) {
-    if (data->hasFormat(kGroupType)) {
-        const int from = data->data(kGroupType).toInt();
-        int to = row >= 0 && !parent.isValid() ? row : int(groups.size());
+    if (data->hasFormat(kGroupType) || data->hasFormat(CatalogueModel::kGroupType)) {
+        int before = row >= 0 && !parent.isValid() ? row : int(groups.size());
         if (parent.isValid())
-            to = parent.internalId() == kGroupRow ? parent.row() : int(parent.internalId());
-        editor.moveGroup(std::size_t(from), std::size_t(std::max(0, from < to ? to - 1 : to)));
-        return true;
+            before = parent.internalId() == kGroupRow ? parent.row() : int(parent.internalId());
+        return dropGroup(*data, before);
     }
     if (!data->hasFormat(fieldType()) || groups.empty())
         return false;

@@ -9,7 +9,7 @@ class KTMetadataField;
 class KTMetadataGroup;
 
 /// The inspector's groups and, below each, its fields, as they can be arranged: renamed in place, dragged,
-/// and taking fields dragged from the catalogue.
+/// and taking fields and groups dragged from the catalogue.
 class GroupTreeModel : public QAbstractItemModel {
     Q_OBJECT
 public:
@@ -46,6 +46,7 @@ public:
 private:
     void followGroups();
     void reset();
+    bool dropGroup(const QMimeData& data, int before);
 
     KTMetadataEditorViewController& editor;
     std::vector<std::shared_ptr<KTMetadataGroup>> groups;

@@ -76,6 +76,13 @@ TEST_F(EditorGroups, TheUserArrangesGroupsAndTheyAreKept) {
     EXPECT_TRUE(editor.showsField("rating"));
     editor.addGroup();
     EXPECT_EQ(editor.groups().back()->name(), "Untitled");
+    const auto& ofCatalogue = *catalogue.metadataGroups().front();
+    const auto added = editor.addCatalogueGroup(ofCatalogue, 0);
+    EXPECT_EQ(editor.groups().front(), added);
+    EXPECT_EQ(added->name(), ofCatalogue.name());
+    editor.renameField(*added->fields()[0], "Other");
+    EXPECT_NE(ofCatalogue.fields()[0]->name(), "Other");
+    EXPECT_TRUE(storedLayout().starts_with(ofCatalogue.name() + ": "));
     editor.resetToDefaultGroups();
     EXPECT_EQ(storedLayout(), defaults);
     set("defaultEditorGroups", KTValue::List{KTValue("damaged")});

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
@@ -251,6 +252,21 @@ TEST_F(DateToolsWindowTest, TheStripBringsPhotosToTheFront) {
     manager.setSelectedPhotos({(*manager.photos())[1], (*manager.photos())[4]});
     settle();
     EXPECT_EQ(strip().frontText(), "e.jpg, 2 of 2") << "it stays in front";
+}
+
+TEST_F(DateToolsWindowTest, StaysOnTheScreenWithEveryTool) {
+    add("a.jpg", "2014:05:03 10:00:00");
+    open(kCopy);
+    EXPECT_GE(strip().height(), strip().sizeHint().height());
+    const QRect room = window.screen()->availableGeometry();
+    window.move(0, room.bottom() - window.height());
+    for (const unsigned tool : {kShift, kSet}) {
+        controller.setSelectedDateTool(tool);
+        QTest::qWait(400); // it grows
+        EXPECT_LE(window.geometry().bottom(), room.bottom()) << tool;
+        EXPECT_GE(window.geometry().top(), room.top()) << tool;
+        EXPECT_FALSE(named<QAbstractButton>("Apply").visibleRegion().isEmpty());
+    }
 }
 
 TEST_F(DateToolsWindowTest, EveryControlIsNamedAndExplained) {

@@ -22,8 +22,6 @@ public:
     Place placeAt(double distance) const;
     /// How many pictures stand in view on each side of the one in front.
     int reach() const { return picturesToEachSide; }
-    /// How many pictures a pointer passes that moves by @p pixels.
-    double picturesIn(double pixels) const { return pixels / spacing; }
 
 private:
     double middle, baseline, spacing;

@@ -30,7 +30,7 @@ DatePreviewList::DatePreviewList(QWidget* parent) : QTreeWidget(parent) {
     setToolTip(uiText("What the button makes of the photo in front, and of the first and the last one"));
     setSelectionMode(SingleSelection);
     setTextElideMode(Qt::ElideMiddle);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum); // on small screens one scrolls
     const int em = fontMetrics().horizontalAdvance('m');
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(PhotoColumn, QHeaderView::Stretch);

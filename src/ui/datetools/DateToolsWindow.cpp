@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QPropertyAnimation>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -22,6 +23,8 @@
 #include <QWindow>
 
 namespace {
+
+constexpr int kScreenMargin = 8;
 
 // As the controller's tools count.
 constexpr struct {
@@ -204,12 +207,20 @@ void DateToolsWindow::orderFocus() {
     setTabOrder(last, previews);
 }
 
-/// The window becomes as high as this tool needs it, its upper edge in place.
+/// The window becomes as high as this tool needs it, its upper edge in place; where the screen ends before,
+/// the strip gives way, and then the edge.
 void DateToolsWindow::fitHeight() {
     layout()->activate();
+    const int room = screen()->availableGeometry().bottom() - geometry().top() - kScreenMargin;
+    const int wanted = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
+                                                     : layout()->totalSizeHint().height();
+    const int least = std::min(wanted, layout()->totalMinimumSize().height());
+    const int height = std::clamp(room, least, wanted);
+    if (isVisible() && height > room)
+        move(x(), std::max(screen()->availableGeometry().top(), y() - (height - room)));
     auto* const growth = new QPropertyAnimation(this, "size", this);
     growth->setDuration(isVisible() ? style()->styleHint(QStyle::SH_Widget_Animation_Duration) : 0);
-    growth->setEndValue(QSize(width(), layout()->totalHeightForWidth(width())));
+    growth->setEndValue(QSize(width(), height));
     growth->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

@@ -76,6 +76,7 @@ QDialog* TemplateSheets::makeTemplatesSheet() {
     layout->addWidget(label);
     layout->addWidget(list);
     layout->addWidget(buttons);
+    sheet->resize(380, sheet->sizeHint().height());
     auto enable = [list, remove] { remove->setEnabled(list->currentRow() >= 0); };
     connect(list, &QListWidget::currentRowChanged, remove, enable);
     enable();

@@ -310,6 +310,12 @@ TEST_F(InspectorTest, PicksDatesAndOfferedValuesByMouse) {
     EXPECT_FALSE(calendar && calendar->isVisible());
     EXPECT_EQ(photo->valueForKey("dateTimeOriginalComponents").components()->xmpString(),
               "2014:05:20 17:41:09");
+    QTest::keyClick(&field("Original Date, Tags"), Qt::Key_Down);
+    const QPointer again = pane->findChild<QCalendarWidget*>();
+    ASSERT_TRUE(again && QTest::qWaitForWindowExposed(again.get()));
+    QTest::keyClick(again->focusProxy() ? again->focusProxy() : again.get(), Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(again && again->isVisible());
     ASSERT_TRUE(undo->undo() && undo->undo());
     EXPECT_FALSE(undo->canUndo()) << "two edits";
 }

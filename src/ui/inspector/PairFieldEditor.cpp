@@ -6,6 +6,7 @@
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 
 namespace {
@@ -28,6 +29,7 @@ PairFieldEditor::PairFieldEditor(Item& edited)
         return;
     calendar = first->addAction(QIcon::fromTheme("view-calendar"), QLineEdit::TrailingPosition);
     connect(calendar, &QAction::triggered, this, &PairFieldEditor::pickDate);
+    first->installEventFilter(this);
 }
 
 QList<QWidget*> PairFieldEditor::fields() const {
@@ -49,6 +51,14 @@ void PairFieldEditor::resizeEvent(QResizeEvent* event) {
     FieldEditor::resizeEvent(event);
     const int needed = fontMetrics().horizontalAdvance("2014-05-03 17:41:09") + kFrames;
     lines->setDirection(width() < needed ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+/// The arrow key opens the calendar, as it opens what is offered for other fields.
+bool PairFieldEditor::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Down)
+        return false;
+    pickDate();
+    return true;
 }
 
 void PairFieldEditor::pickDate() {

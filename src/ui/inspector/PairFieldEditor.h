@@ -15,6 +15,7 @@ public:
     void setNames(const QString& name, const QString& secondName, const QString& help) override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

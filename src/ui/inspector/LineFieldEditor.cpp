@@ -34,6 +34,11 @@ void showInLine(TagLineEdit& line, const Item& item, Item::Half half) {
     line.setEnabled(item.isEditable());
 }
 
+void nameAction(QAction& action, const QString& name) {
+    action.setText(uiTitle(name.toStdString()));
+    action.setToolTip(name);
+}
+
 LineFieldEditor::LineFieldEditor(Item& edited)
     : FieldEditor(edited), offering(dynamic_cast<KTMetadataFieldComboBoxArrayViewItem*>(&edited)),
       line(new TagLineEdit) {
@@ -63,7 +68,7 @@ QList<QWidget*> LineFieldEditor::fields() const {
 void LineFieldEditor::setNames(const QString& name, const QString& secondName, const QString& help) {
     FieldEditor::setNames(name, secondName, help);
     if (offer != nullptr)
-        offer->setText(uiText("Values of %1").arg(name));
+        nameAction(*offer, uiText("Values of %1").arg(name));
 }
 
 void LineFieldEditor::showValue() {
@@ -97,7 +102,7 @@ void LineFieldEditor::offerValues() {
         connect(offers, qOverload<const QString&>(&QCompleter::activated), this, &LineFieldEditor::choose);
     }
     static_cast<QStringListModel*>(offers->model())->setStringList(values);
-    offers->popup()->setAccessibleName(offer->text());
+    offers->popup()->setAccessibleName(offer->toolTip());
     offers->complete();
 }
 

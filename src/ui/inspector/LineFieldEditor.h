@@ -30,6 +30,8 @@ private:
     QCompleter* offers = nullptr; // made when they are first shown
 };
 
+/// Names the button at the end of a line; names of groups have ampersands.
+void nameAction(QAction& action, const QString& name);
 /// Lets @p item follow what is typed into @p line as that half of its text.
 void connectLine(TagLineEdit& line, FieldEditor::Item& item, FieldEditor::Item::Half half);
 /// Shows the half of the item's text in @p line.

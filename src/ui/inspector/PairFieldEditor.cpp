@@ -39,7 +39,7 @@ QList<QWidget*> PairFieldEditor::fields() const {
 void PairFieldEditor::setNames(const QString& name, const QString& secondName, const QString& help) {
     FieldEditor::setNames(name, secondName, help);
     if (calendar != nullptr)
-        calendar->setText(uiText("Pick %1").arg(name));
+        nameAction(*calendar, uiText("Pick %1").arg(name));
 }
 
 void PairFieldEditor::showValue() {
@@ -65,7 +65,7 @@ void PairFieldEditor::pickDate() {
     auto* const picker = new QCalendarWidget(this);
     picker->setWindowFlags(Qt::Popup);
     picker->setAttribute(Qt::WA_DeleteOnClose);
-    picker->setAccessibleName(calendar->text());
+    picker->setAccessibleName(calendar->toolTip());
     const QDate shownDate = QDate::fromString(first->text(), Qt::ISODate);
     if (shownDate.isValid())
         picker->setSelectedDate(shownDate);

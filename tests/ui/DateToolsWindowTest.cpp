@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -121,8 +122,18 @@ TEST_F(DateToolsWindowTest, ShiftsByTypedMagnitudesAsThePreviewSays) {
     for (const QString& row : promised)
         EXPECT_TRUE(row.contains("30:15")) << row.toStdString();
     EXPECT_FALSE(undo->canUndo()) << "before the button";
+    auto isTold = [&] {
+        return std::ranges::any_of(window.findChildren<QLabel*>(), [](const QLabel* label) {
+            return label->text().endsWith(", not yet written");
+        });
+    };
+    first->setValueForKey("caption", "no date");
+    settle();
+    EXPECT_FALSE(isTold());
+    undo->undo();
 
     press("Apply");
+    EXPECT_TRUE(isTold());
     EXPECT_EQ(reading(*first), "2014:05:02 08:30:15");
     EXPECT_EQ(reading(*last, kDigitized), "2014:05:02 09:30:15");
     EXPECT_EQ(reading(*undated), "none");

@@ -2,6 +2,7 @@
 
 #include "datetools/KTDateToolsWindowController.h"
 #include "metadata/KTDateFormatters.h"
+#include "photo/KTSameValue.h"
 #include "platform/undo/KTUndoManager.h"
 #include "ui/datetools/CoverFlowView.h"
 #include "ui/datetools/DateCopyPanel.h"
@@ -35,11 +36,13 @@ constexpr struct {
 
 /// What the photo in front is dated now.
 QString dateText(const KTPhoto& photo) {
-    const KTValue date = photo.valueForKey("dateTimeOriginalComponents");
+    constexpr auto key = "dateTimeOriginalComponents";
+    const KTValue date = photo.valueForKey(key);
     if (!date.components())
         return uiText("without a capture date");
     const QString text = QString::fromStdString(KTDateComponentsFormatter().stringForObjectValue(date));
-    return photo.hasUnsavedChanges() ? uiText("%1, not yet written").arg(text) : text;
+    return KTIsSameValue(date, photo.savedPropertyWithKey(key)) ? text
+                                                                : uiText("%1, not yet written").arg(text);
 }
 
 } // namespace

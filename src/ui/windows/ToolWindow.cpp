@@ -64,7 +64,7 @@ void ToolWindow::placeBesideMainWindow() {
             const QRect room = window->screen()->availableGeometry();
             const QRect main = window->geometry() & room;
             resize(size().boundedTo(room.size() - QSize(2 * kMargin, 3 * kMargin)));
-            const int lowest = std::max(room.top() + kMargin, room.bottom() - kMargin - height());
+            const int lowest = room.bottom() - height() - 2 * kMargin; // with a frame
             move(main.right() - width() - kMargin, std::min(main.top() + 3 * kMargin, lowest));
         }
 }

@@ -1,6 +1,7 @@
 #include "app/WaymarkAppDelegate.h"
 #include "metadata/KTExifToolFolder.h"
 #include "platform/common/KTLocalizedString.h"
+#include "platform/concurrency/KTThreadPool.h"
 #include "platform/desktop/KTLogFile.h"
 #include "platform/desktop/KTUserLanguage.h"
 #include "platform/desktop/KTWriteNote.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication application(argc, argv); // takes out its own arguments
+    qAddPostRoutine(KTEndThreadPool);     // the toolkit keeps fonts for each thread
     QTranslator toolkitTexts;
     if (toolkitTexts.load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&toolkitTexts);

@@ -1,6 +1,10 @@
 #include "collection/KTBatchOperationController.h"
+#include "platform/cartography/KTMapController.h"
+#include "tests/support/LoopbackServer.h"
 #include "tests/ui/WindowWorld.h"
 
+#include <QNetworkProxy>
+#include <condition_variable>
 #include <set>
 
 namespace {
@@ -72,6 +76,47 @@ TEST_F(QuittingTest, InABatchLeavesEachFileOldOrNew) {
     }
     EXPECT_GE(written, kPhotos - unsaved);
     EXPECT_LT(written, std::size_t(kPhotos));
+}
+
+/// A tile server that lets every request wait until it may answer, or gives up after a while.
+class SlowTileServer {
+public:
+    ~SlowTileServer() { answer(); }
+    void answer() {
+        std::lock_guard guard(mutex);
+        mayAnswer = true;
+        changed.notify_all();
+    }
+    bool hasGivenUp() const { return gaveUp; }
+
+private:
+    std::string wait() {
+        std::unique_lock lock(mutex);
+        if (!changed.wait_for(lock, std::chrono::seconds(30), [this] { return mayAnswer; }))
+            gaveUp = true;
+        return LoopbackServer::answer(404, "");
+    }
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool mayAnswer = false;
+    std::atomic<bool> gaveUp = false;
+
+public:
+    LoopbackServer server{[this](const auto&) { return wait(); }}; // ends first
+};
+
+TEST_F(QuittingTest, AmidADownloadOfTilesWaitsForNoServer) {
+    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    const auto slow = std::make_unique<SlowTileServer>();
+    KTUserDefaults::standardUserDefaults().setValue("mapTilesPattern",
+                                                    "http://" + slow->server.hostAndPort() + "/{z}/{x}/{y}");
+    world->app->waymarkWindowController()->mapController()->setMapDataSource("custom");
+    ASSERT_TRUE(runEventLoopUntil([&] { return !slow->server.requests().empty(); }));
+    world.reset();
+    EXPECT_FALSE(slow->hasGivenUp());
+    slow->answer();
+    QApplication::processEvents();
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "platform/concurrency/KTThreadPool.h"
 #include "platform/defaults/KTUserDefaults.h"
 
 #include <QApplication>
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
+    qAddPostRoutine(KTEndThreadPool);
     KTUserDefaults::useThrowAwayDomain();
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

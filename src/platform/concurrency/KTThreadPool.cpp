@@ -15,6 +15,7 @@ class Pool {
 public:
     static Pool& shared();
     void run(std::function<void()> job);
+    void end();
 
 private:
     struct Ending {
@@ -23,7 +24,6 @@ private:
 
     void work();
     void addThread(); // the mutex must be held
-    void end();
 
     std::mutex mutex;
     std::condition_variable changed, settled;
@@ -49,6 +49,7 @@ void Pool::end() {
     lock.unlock();
     for (std::thread& thread : threads)
         thread.join();
+    threads.clear();
 }
 
 void Pool::run(std::function<void()> job) {
@@ -99,4 +100,8 @@ void Pool::work() {
 
 void KTRunOnThreadPool(std::function<void()> job) {
     Pool::shared().run(std::move(job));
+}
+
+void KTEndThreadPool() {
+    Pool::shared().end();
 }

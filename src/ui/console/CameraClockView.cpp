@@ -26,10 +26,13 @@ CameraClockView::CameraClockView(KTTimeZoneHUDController& zonePanel, QWidget* pa
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(4);
-    layout->addWidget(new QLabel(uiText("The photos' times are in")));
+    auto* const question = new QLabel(uiText("The photos' times are in"));
+    question->setWordWrap(true);
+    layout->addWidget(question);
     auto* const group = new QButtonGroup(this);
     for (std::size_t i = 0; i < controller.timeZoneOptions().size(); ++i) {
         options.push_back(new QRadioButton);
+        options.back()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // it wraps
         options.back()->setToolTip(uiText("The time zone to which the camera's clock was set"));
         group->addButton(options.back(), int(i));
         layout->addWidget(options.back());
@@ -57,8 +60,7 @@ CameraClockView::CameraClockView(KTTimeZoneHUDController& zonePanel, QWidget* pa
 }
 
 void CameraClockView::update() {
-    for (std::size_t i = 0; i < options.size() && i < controller.timeZoneOptions().size(); ++i)
-        options[i]->setText(QString::fromStdString(controller.timeZoneOptions()[i]));
+    showOptions();
     const std::size_t selected =
         std::min<std::size_t>(controller.timeZoneOptionsSelectedIndex(), options.size() - 1);
     options[selected]->setChecked(true);
@@ -66,6 +68,22 @@ void CameraClockView::update() {
     zoneButton->setText(zone);
     zoneButton->setAccessibleName(uiText("Time zone: %1").arg(zone));
     zoneButton->setVisible(!controller.shouldHideOtherTimeZoneOption());
+}
+
+void CameraClockView::resizeEvent(QResizeEvent*) {
+    showOptions();
+}
+
+/// A zone in parentheses goes into a line of its own where there is no room beside the text.
+void CameraClockView::showOptions() {
+    for (std::size_t i = 0; i < options.size() && i < controller.timeZoneOptions().size(); ++i) {
+        QRadioButton& option = *options[i];
+        QString text = QString::fromStdString(controller.timeZoneOptions()[i]);
+        option.setAccessibleName(text);
+        option.setText(text);
+        if (option.sizeHint().width() > width())
+            option.setText(text.replace(" (", "\n("));
+    }
 }
 
 void CameraClockView::pickZone() {

@@ -14,8 +14,12 @@ class CameraClockView : public QWidget {
 public:
     explicit CameraClockView(KTTimeZoneHUDController& zonePanel, QWidget* parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void update();
+    void showOptions();
     void pickZone();
 
     KTTimeZoneHUDController& controller;

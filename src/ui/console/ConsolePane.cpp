@@ -3,8 +3,8 @@
 #include "geotagging/KTAppTrackPickerController.h"
 #include "geotagging/KTGeotaggingConsoleViewController.h"
 #include "metadata/KTDateFormatters.h"
-#include "ui/application/ApplicationLook.h"
 #include "ui/console/BatchPanel.h"
+#include "ui/console/BoardsView.h"
 #include "ui/console/CameraClockView.h"
 #include "ui/console/CriteriaView.h"
 #include "ui/console/ManualPanel.h"
@@ -15,12 +15,10 @@
 #include "ui/support/UICount.h"
 #include "ui/support/UIText.h"
 
-#include <QApplication>
 #include <QButtonGroup>
-#include <QFrame>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QToolButton>
 
 namespace {
@@ -32,43 +30,6 @@ constexpr struct {
               {KTGeotaggingModeManual, "Manual", "Geotags the selected photos to a place on the map"},
               {KTGeotaggingModeStandard, "Standard", "Shows the track points around one photo"}};
 
-/// A board with a heading, which scrolls where there is little room.
-QWidget* board(const QString& name, const QString& title, QWidget* content) {
-    auto* const frame = new QFrame;
-    frame->setAccessibleName(name);
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setAutoFillBackground(true);
-    // Fields must stand out from the board, which in the dark they do by their ground alone.
-    const auto ground = isDarkPalette(QApplication::palette()) ? QPalette::AlternateBase : QPalette::Base;
-    frame->setBackgroundRole(ground);
-    auto* const inner = new QWidget;
-    auto* const column = new QVBoxLayout(inner);
-    column->setContentsMargins(12, 6, 12, 6);
-    column->setSpacing(4);
-    if (!title.isEmpty()) {
-        auto* const heading = new QLabel(title);
-        QFont bold = heading->font();
-        bold.setBold(true);
-        heading->setFont(bold);
-        column->addWidget(heading);
-    }
-    column->addWidget(content, 1);
-    auto* const scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded); // in small windows
-    scroll->setWidget(inner);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    for (QWidget* each : {static_cast<QWidget*>(inner), scroll->viewport()}) {
-        each->setBackgroundRole(ground);
-        each->setAutoFillBackground(true);
-    }
-    auto* const layout = new QVBoxLayout(frame);
-    layout->setContentsMargins({});
-    layout->addWidget(scroll);
-    return frame;
-}
-
 } // namespace
 
 ConsolePane::ConsolePane(KTGeotaggingConsoleViewController& consoleController, KTTimeZoneHUDController& clock,
@@ -78,16 +39,15 @@ ConsolePane::ConsolePane(KTGeotaggingConsoleViewController& consoleController, K
     auto* const place = new QWidget;
     panelPlace = new QHBoxLayout(place);
     panelPlace->setContentsMargins({});
-    auto* const boards = new QHBoxLayout;
-    boards->setSpacing(8);
-    boards->addWidget(board(uiText("Proposed locations"), {}, place), 5);
-    boards->addWidget(board(uiText("Criteria"), uiText("Criteria"), new CriteriaView), 5);
-    boards->addWidget(board(uiText("Camera clock"), uiText("Camera clock"), new CameraClockView(clock)), 5);
+    auto* const boards = new BoardsView;
+    boards->addBoard(uiText("Proposed locations"), {}, place, 1);
+    boards->addBoard(uiText("Criteria"), uiText("Criteria"), new CriteriaView, 0);
+    boards->addBoard(uiText("Camera clock"), uiText("Camera clock"), new CameraClockView(clock), 1);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 8);
     layout->setSpacing(6);
     layout->addWidget(makeHead());
-    layout->addLayout(boards, 1);
+    layout->addWidget(boards, 1);
     observations.push_back(controller.observe([this](const KTChange& change) {
         if (!change.isPrior)
             showPanel();
@@ -106,6 +66,8 @@ QWidget* ConsolePane::makeHead() {
     tracksLine = new QLabel;
     tracksLine->setAccessibleName(uiText("Tracks in use"));
     tracksLine->setForegroundRole(QPalette::PlaceholderText);
+    tracksLine->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    tracksLine->installEventFilter(this);
     line->addSpacing(6);
     line->addWidget(tracksLine, 1);
     KTGeotaggingController& geotagging = controller.geotagging();
@@ -235,6 +197,18 @@ void ConsolePane::showTracks() {
         text += ", " + QString::fromStdString(formatter.stringForObjectValue(*first)) + " – " +
                 QString::fromStdString(formatter.stringForObjectValue(*last));
     }
-    tracksLine->setText(text);
     tracksLine->setToolTip(text);
+    shortenTracks();
+}
+
+bool ConsolePane::eventFilter(QObject* object, QEvent* event) {
+    if (object == tracksLine && event->type() == QEvent::Resize)
+        shortenTracks();
+    return QWidget::eventFilter(object, event);
+}
+
+/// What does not fit stands in the tool tip.
+void ConsolePane::shortenTracks() {
+    tracksLine->setText(
+        tracksLine->fontMetrics().elidedText(tracksLine->toolTip(), Qt::ElideRight, tracksLine->width()));
 }

@@ -19,6 +19,9 @@ public:
     ConsolePane(KTGeotaggingConsoleViewController& consoleController, KTTimeZoneHUDController& clock,
                 std::function<void()> addTracks, QWidget* parent = nullptr);
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     QWidget* makeHead();
     void addModes(QHBoxLayout& line);
@@ -29,6 +32,7 @@ private:
     QWidget* makePanel();
     QWidget* makeText();
     void showTracks();
+    void shortenTracks();
 
     KTGeotaggingConsoleViewController& controller;
     const std::function<void()> addTracksCommand;

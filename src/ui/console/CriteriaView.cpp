@@ -4,13 +4,14 @@
 #include "ui/support/ObservationLink.h"
 #include "ui/support/TypedQuantity.h"
 #include "ui/support/UIText.h"
+#include "ui/support/WrappingLine.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -21,15 +22,6 @@ constexpr const char *kUsesTime = "shouldUseTimeRestriction", *kTime = "timeRest
 
 KTUserDefaults& defaults() {
     return KTUserDefaults::standardUserDefaults();
-}
-
-QHBoxLayout* line(std::initializer_list<QWidget*> widgets) {
-    auto* const layout = new QHBoxLayout;
-    layout->setSpacing(6);
-    for (QWidget* widget : widgets)
-        layout->addWidget(widget);
-    layout->addStretch();
-    return layout;
 }
 
 QLabel* labelFor(QWidget* buddy, const QString& text) {
@@ -70,9 +62,9 @@ CriteriaView::CriteriaView(QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(2);
-    layout->addLayout(line({usesTime, time, labelFor(time, uiText("of a track point"))}));
-    layout->addLayout(line({usesDistance, distance, labelFor(distance, uiText("apart"))}));
-    layout->addLayout(line({labelFor(combination, uiText("Require")), combination}));
+    layout->addLayout(new WrappingLine{usesTime, time, labelFor(time, uiText("of a track point"))});
+    layout->addLayout(new WrappingLine{usesDistance, distance, labelFor(distance, uiText("apart"))});
+    layout->addLayout(new WrappingLine{labelFor(combination, uiText("Require")), combination});
     layout->addWidget(nearest);
     layout->addWidget(weighted);
     layout->addWidget(skipsGeotagged);
@@ -94,7 +86,7 @@ QLineEdit* CriteriaView::makeField(const QString& name, const QString& tip, void
     auto* const field = new QLineEdit;
     field->setAccessibleName(name);
     field->setToolTip(tip);
-    field->setFixedWidth(fontMetrics().horizontalAdvance("00000 min") + 14);
+    field->setFixedWidth(fontMetrics().horizontalAdvance("0000 min") + 12);
     connect(field, &QLineEdit::editingFinished, this, entered);
     return field;
 }

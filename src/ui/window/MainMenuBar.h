@@ -4,6 +4,7 @@
 
 #include <QMenuBar>
 
+class Mnemonics;
 class WaymarkMainMenu;
 
 /// Shows the application's menu bar and follows it: what is only enabled,
@@ -18,7 +19,7 @@ private:
     void update();
     bool bringUpToDate(const QList<QAction*>& actions, const KTMenu& items);
     void fill(QMenu& menu, const KTMenu& items);
-    void show(QAction& action, const KTMenuItem& item);
+    void show(QAction& action, const KTMenuItem& item, Mnemonics& mnemonics);
 
     WaymarkMainMenu& mainMenu;
     KTObservable::Observation observation;

@@ -2,6 +2,28 @@
 
 #include <algorithm>
 
+namespace {
+
+KTArrangedPhotos::Ranked ranked(const KTArrangedPhotos::Photo& photo,
+                                const std::vector<KTSortDescriptor>& descriptors) {
+    KTArrangedPhotos::Ranked entry{photo, {}};
+    for (const KTSortDescriptor& descriptor : descriptors)
+        entry.ranks.push_back(photo->valueForKey(descriptor.key));
+    return entry;
+}
+
+/// Whether one photo with its ranks comes before another.
+auto byRank(const std::vector<KTSortDescriptor>& descriptors) {
+    return [&descriptors](const KTArrangedPhotos::Ranked& left, const KTArrangedPhotos::Ranked& right) {
+        for (std::size_t i = 0; i < descriptors.size(); ++i)
+            if (const int sign = KTCompareForSorting(left.ranks[i], right.ranks[i]); sign != 0)
+                return (sign < 0) == descriptors[i].isAscending;
+        return false;
+    };
+}
+
+} // namespace
+
 bool KTArrangedPhotos::contains(const KTPhoto* photo) const {
     return present.contains(photo);
 }
@@ -13,12 +35,12 @@ KTArrangedPhotos::Snapshot KTArrangedPhotos::photos() const {
 }
 
 KTArrangedPhotos::Snapshot KTArrangedPhotos::arranged() const {
-    if (descriptors.empty())
+    if (sorting.descriptors.empty())
         return photos();
     if (!arrangedCopy) {
         Photos copy;
-        copy.reserve(order.size());
-        for (const Ranked& entry : order)
+        copy.reserve(sorting.order.size());
+        for (const Ranked& entry : sorting.order)
             copy.push_back(entry.photo);
         arrangedCopy = std::make_shared<const Photos>(std::move(copy));
     }
@@ -40,7 +62,7 @@ KTArrangedPhotos::Photos KTArrangedPhotos::arrangedAt(const Indexes& indexes) co
     Photos photos;
     for (const std::size_t index : indexes)
         if (index < loaded.size())
-            photos.push_back(descriptors.empty() ? loaded[index] : order[index].photo);
+            photos.push_back(sorting.descriptors.empty() ? loaded[index] : sorting.order[index].photo);
     return photos;
 }
 
@@ -48,31 +70,14 @@ void KTArrangedPhotos::forgetSnapshots() {
     loadedCopy = arrangedCopy = selectedCopy = nullptr;
 }
 
-KTArrangedPhotos::Ranked KTArrangedPhotos::ranked(const Photo& photo) const {
-    Ranked entry{photo, {}};
-    for (const KTSortDescriptor& descriptor : descriptors)
-        entry.ranks.push_back(photo->valueForKey(descriptor.key));
-    return entry;
-}
-
-bool KTArrangedPhotos::comesBefore(const Ranked& left, const Ranked& right) const {
-    for (std::size_t i = 0; i < descriptors.size(); ++i)
-        if (const int sign = KTCompareForSorting(left.ranks[i], right.ranks[i]); sign != 0)
-            return (sign < 0) == descriptors[i].isAscending;
-    return false;
-}
-
 void KTArrangedPhotos::insert(const Photo& photo, std::size_t index) {
     loaded.insert(loaded.begin() + static_cast<std::ptrdiff_t>(std::min(index, loaded.size())), photo);
     present.insert(photo.get());
     files.insert(photo->path());
-    if (!descriptors.empty()) {
-        Ranked entry = ranked(photo);
-        const auto place =
-            std::ranges::upper_bound(order, entry, [this](const Ranked& left, const Ranked& right) {
-                return comesBefore(left, right);
-            });
-        order.insert(place, std::move(entry));
+    if (!sorting.descriptors.empty()) {
+        Ranked entry = ranked(photo, sorting.descriptors);
+        const auto place = std::ranges::upper_bound(sorting.order, entry, byRank(sorting.descriptors));
+        sorting.order.insert(place, std::move(entry));
     }
     forgetSnapshots();
 }
@@ -82,7 +87,7 @@ void KTArrangedPhotos::remove(const Indexes& indexes) {
     for (std::size_t index : indexes)
         leaving.insert(loaded[index].get());
     auto leaves = [&](const Photo& photo) { return leaving.contains(photo.get()); };
-    std::erase_if(order, [&](const Ranked& entry) { return leaves(entry.photo); });
+    std::erase_if(sorting.order, [&](const Ranked& entry) { return leaves(entry.photo); });
     for (const KTPhoto* photo : leaving) {
         files.erase(files.find(photo->path()));
         present.erase(photo);
@@ -109,14 +114,18 @@ KTArrangedPhotos::Indexes KTArrangedPhotos::indexesOf(const Photos& wanted) cons
     return indexes;
 }
 
-void KTArrangedPhotos::sort(std::vector<KTSortDescriptor> newDescriptors) {
-    descriptors = std::move(newDescriptors);
-    order.clear();
-    if (!descriptors.empty())
-        for (const Photo& photo : loaded)
-            order.push_back(ranked(photo));
-    std::ranges::stable_sort(
-        order, [this](const Ranked& left, const Ranked& right) { return comesBefore(left, right); });
+KTArrangedPhotos::Sorted KTArrangedPhotos::sorted(const Photos& photos,
+                                                  std::vector<KTSortDescriptor> descriptors) {
+    Sorted result{std::move(descriptors), {}};
+    if (!result.descriptors.empty())
+        for (const Photo& photo : photos)
+            result.order.push_back(ranked(photo, result.descriptors));
+    std::ranges::stable_sort(result.order, byRank(result.descriptors));
+    return result;
+}
+
+void KTArrangedPhotos::adopt(Sorted order) {
+    sorting = std::move(order);
     forgetSnapshots();
 }
 
@@ -136,7 +145,7 @@ void KTArrangedPhotos::move(const Indexes& indexes, std::size_t toIndex) {
     before.insert(before.end(), block.begin(), block.end());
     before.insert(before.end(), after.begin(), after.end());
     loaded.swap(before);
-    sort(descriptors);
+    sort(sorting.descriptors);
 }
 
 void KTArrangedPhotos::select(const Photos& wanted) {

@@ -34,9 +34,24 @@ public:
     Indexes indexesOf(const Photos& wanted) const;
 
     // In the user's order
-    const std::vector<KTSortDescriptor>& sortDescriptors() const { return descriptors; }
+    struct Ranked {
+        Photo photo;
+        std::vector<KTValue> ranks; ///< the values of the sort descriptors' keys
+    };
+    /// Photos in the order of descriptors.
+    struct Sorted {
+        std::vector<KTSortDescriptor> descriptors;
+        std::vector<Ranked> order; ///< empty while there are no descriptors
+    };
+    const std::vector<KTSortDescriptor>& sortDescriptors() const { return sorting.descriptors; }
     /// Photos of equal rank stay in load order; no descriptors give load order.
-    void sort(std::vector<KTSortDescriptor> newDescriptors);
+    void sort(std::vector<KTSortDescriptor> newDescriptors) {
+        adopt(sorted(loaded, std::move(newDescriptors)));
+    }
+    /// The two halves of that: the order of some photos, found on any thread, and its becoming the user's,
+    /// for which they must be those that are loaded.
+    static Sorted sorted(const Photos& photos, std::vector<KTSortDescriptor> descriptors);
+    void adopt(Sorted order);
     Snapshot arranged() const;
     /// Those at these places; cheaper than a snapshot for a few. Places that do not exist are left out.
     Photos arrangedAt(const Indexes& indexes) const;
@@ -49,19 +64,11 @@ public:
     Snapshot selected() const;       ///< likewise
 
 private:
-    struct Ranked {
-        Photo photo;
-        std::vector<KTValue> ranks; ///< the values of the sort descriptors' keys
-    };
-
-    Ranked ranked(const Photo& photo) const;
-    bool comesBefore(const Ranked& left, const Ranked& right) const;
     void forgetSnapshots();
 
     Photos loaded;
     std::unordered_set<const KTPhoto*> present, chosen; // loaded, selected
     std::unordered_multiset<std::string> files;         // of the loaded ones
-    std::vector<KTSortDescriptor> descriptors;
-    std::vector<Ranked> order; // empty while there are no descriptors
+    Sorted sorting;
     mutable Snapshot loadedCopy, arrangedCopy, selectedCopy;
 };

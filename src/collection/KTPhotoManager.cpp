@@ -2,6 +2,8 @@
 
 #include "photo/KTPhotoChangeTracker.h"
 #include "platform/common/KTLocalizedString.h"
+#include "platform/concurrency/KTMainThread.h"
+#include "platform/concurrency/KTThreadPool.h"
 #include "platform/undo/KTUndoManager.h"
 
 #include <algorithm>
@@ -144,6 +146,7 @@ KTPhotoManager::Indexes KTPhotoManager::movePhotos(const Indexes& indexes, std::
     for (std::size_t index : indexes)
         if (index < order->size())
             moved.push_back((*order)[index]);
+    wantedSort = nullptr;
     willChange("photoSortDescriptors");
     changeList(KTChange::Kind::Setting, {}, [&](KTArrangedPhotos& photos) {
         photos.arrange(*order);
@@ -199,18 +202,6 @@ void KTPhotoManager::countPhotosOfLibraries(const Photos& coming, const Photos& 
         didChange("isSyncingWithIPhoto");
 }
 
-void KTPhotoManager::setPhotoSortDescriptors(std::vector<KTSortDescriptor> descriptors) {
-    finishZoneChange();
-    willChange("photoSortDescriptors");
-    willChange("selectedPhotoIndexes");
-    {
-        std::lock_guard guard(mutex);
-        list.sort(std::move(descriptors));
-    }
-    didChange("selectedPhotoIndexes");
-    didChange("photoSortDescriptors");
-}
-
 template<class Change>
 void KTPhotoManager::changeSelection(Change&& change) {
     willChange("selectedPhotoIndexes");
@@ -219,6 +210,41 @@ void KTPhotoManager::changeSelection(Change&& change) {
         change(list);
     }
     didChange("selectedPhotoIndexes");
+}
+
+template<class Change>
+void KTPhotoManager::changeSort(Change&& change) {
+    willChange("photoSortDescriptors");
+    changeSelection(std::forward<Change>(change));
+    didChange("photoSortDescriptors");
+}
+
+void KTPhotoManager::setPhotoSortDescriptors(std::vector<KTSortDescriptor> descriptors) {
+    wantedSort = nullptr;
+    finishZoneChange();
+    changeSort([&](KTArrangedPhotos& photos) { photos.sort(std::move(descriptors)); });
+}
+
+void KTPhotoManager::sortPhotosSoon(std::vector<KTSortDescriptor> descriptors) {
+    finishZoneChange();
+    wantedSort = std::make_shared<const std::vector<KTSortDescriptor>>(std::move(descriptors));
+    KTRunOnThreadPool([weak = std::weak_ptr(self), all = photos(), wanted = wantedSort] {
+        auto order = std::make_shared<KTArrangedPhotos::Sorted>(KTArrangedPhotos::sorted(*all, *wanted));
+        KTPerformOnMainThread([weak, all, wanted, order] {
+            const auto alive = weak.lock();
+            if (!alive || (*alive)->wantedSort != wanted)
+                return;
+            KTPhotoManager& manager = **alive;
+            if (manager.photos() != all) // some came or went meanwhile
+                return manager.setPhotoSortDescriptors(*wanted);
+            manager.wantedSort = nullptr;
+            manager.changeSort([&](KTArrangedPhotos& photos) { photos.adopt(std::move(*order)); });
+        });
+    });
+}
+
+std::vector<KTSortDescriptor> KTPhotoManager::wantedSortDescriptors() const {
+    return wantedSort ? *wantedSort : photoSortDescriptors();
 }
 
 void KTPhotoManager::setSelectedPhotoIndexes(const Indexes& indexes) {

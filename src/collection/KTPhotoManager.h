@@ -60,6 +60,11 @@ public:
     /// "photoSortDescriptors": the order of what is shown; load order while empty.
     std::vector<KTSortDescriptor> photoSortDescriptors() const;
     void setPhotoSortDescriptors(std::vector<KTSortDescriptor> descriptors);
+    /// The same a little later: another thread finds the order, so that with many photos nobody waits. What
+    /// was asked for last holds.
+    void sortPhotosSoon(std::vector<KTSortDescriptor> descriptors);
+    /// Those asked for last, which may be still on their way.
+    std::vector<KTSortDescriptor> wantedSortDescriptors() const;
     /// The photos in that order, as it was when the sort was last set or a photo came.
     Snapshot arrangedPhotos() const;
     /// Those at these places of that order; cheaper than a snapshot for a few.
@@ -143,6 +148,8 @@ private:
     void changeList(KTChange::Kind kind, const Indexes& indexes, Change&& change);
     template<class Change>
     void changeSelection(Change&& change);
+    template<class Change>
+    void changeSort(Change&& change);
     bool hasSelection() const;
     bool isLoaded(const std::filesystem::path& file) const;
     void countPhotosOfLibraries(const Photos& coming, const Photos& leaving);
@@ -188,8 +195,9 @@ private:
     std::shared_ptr<KTUndoManager> undo;
     std::shared_ptr<KTSerialQueue> queueOfUndo;
     KTBatchOperationController* batches = nullptr;
-    std::size_t photosOfLibraries = 0;    // that take changes
-    std::optional<ZoneChange> zoneChange; // under way
+    std::size_t photosOfLibraries = 0;                               // that take changes
+    std::optional<ZoneChange> zoneChange;                            // under way
+    std::shared_ptr<const std::vector<KTSortDescriptor>> wantedSort; // on its way
     bool createsSidecars = false;
     bool isImporting = false;
     std::string importLine;

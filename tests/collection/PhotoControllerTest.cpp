@@ -99,6 +99,29 @@ TEST_F(PhotoController, TellsOfTheArrangedPhotosAndTheSelection) {
     EXPECT_EQ(told, Told{});
 }
 
+TEST_F(PhotoController, SortsALittleLater) {
+    const auto order = [this] { return namesOf(controller.photos()); };
+    const auto photos = photosNamed({"b.jpg", "a.jpg", "c.jpg"});
+    manager.setSelectedPhotos({photos[1]});
+    manager.sortPhotosSoon({{"filename", true}});
+    manager.sortPhotosSoon({{"filename", false}}); // what is asked for last holds
+    EXPECT_EQ(order(), "b.jpg a.jpg c.jpg");
+    EXPECT_FALSE(manager.wantedSortDescriptors().front().isAscending);
+    ASSERT_TRUE(runEventLoopUntil([&] { return !manager.photoSortDescriptors().empty(); }));
+    EXPECT_EQ(order(), "c.jpg b.jpg a.jpg");
+    EXPECT_EQ(manager.selectedPhotoIndexes(), (Indexes{2}));
+
+    manager.sortPhotosSoon({{"filename", true}});
+    photosNamed({"0.jpg"}); // comes while the order is found
+    ASSERT_TRUE(runEventLoopUntil([&] { return manager.photoSortDescriptors().front().isAscending; }));
+    EXPECT_EQ(order(), "0.jpg a.jpg b.jpg c.jpg");
+
+    manager.sortPhotosSoon({{"filename", false}});
+    manager.setPhotoSortDescriptors({});
+    EXPECT_TRUE(manager.wantedSortDescriptors().empty());
+    EXPECT_EQ(order(), "b.jpg a.jpg c.jpg 0.jpg");
+}
+
 TEST_F(PhotoController, TheMenuOffersWhatThePhotosAllow) {
     EXPECT_TRUE(controller.menuForPhotos({}).empty());
     auto photos = photosNamed({"a.jpg", "b.jpg"});

@@ -144,12 +144,12 @@ void PhotoTableView::sortByColumn(int column) {
     const QString key = model.headerData(column, Qt::Horizontal, PhotoListModel::FieldKeyRole).toString();
     if (key.isEmpty())
         return;
-    auto order = controller.photoManager().photoSortDescriptors();
+    auto order = controller.photoManager().wantedSortDescriptors();
     const bool isLeading = !order.empty() && order.front().key == key.toStdString();
     const bool isAscending = !isLeading || !order.front().isAscending;
     std::erase_if(order, [&](const KTSortDescriptor& other) { return other.key == key.toStdString(); });
     order.insert(order.begin(), {key.toStdString(), isAscending});
-    controller.photoManager().setPhotoSortDescriptors(std::move(order));
+    controller.photoManager().sortPhotosSoon(std::move(order));
 }
 
 void PhotoTableView::showSortOrder() {

@@ -2,6 +2,7 @@
 # folder makes both; `./test --package` also tries them in a system of their own.
 set(CPACK_PACKAGE_NAME waymark)
 set(CPACK_PACKAGE_VENDOR "The Waymark developers")
+# A stand-in: who gives packages to others puts an address of their own here.
 set(CPACK_PACKAGE_CONTACT "The Waymark developers <waymark@example.org>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

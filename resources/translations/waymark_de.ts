@@ -804,6 +804,11 @@
         <translation>Eine zu zeichnende Trackdatei; mehrfach möglich</translation>
     </message>
     <message>
+        <source>About</source>
+        <extracomment>src/export/KTExportedTags.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>About Waymark</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
         <translation>Über Waymark</translation>
@@ -859,6 +864,11 @@
         <translation>Tracks hinzufügen …</translation>
     </message>
     <message>
+        <source>Add Whole Group</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Add a %@…</source>
         <extracomment>src/app/editor/KTMetadataFieldMultipleValueArrayViewItem.cpp</extracomment>
         <translation>%@ hinzufügen …</translation>
@@ -907,6 +917,11 @@
         <source>Adds the field to the group that is chosen above</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
         <translation>Fügt das Feld der oben gewählten Gruppe hinzu</translation>
+    </message>
+    <message>
+        <source>Adds the group with all its fields</source>
+        <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Adds track files to the library</source>
@@ -3577,6 +3592,11 @@
         <translation>Vorderes Foto</translation>
     </message>
     <message>
+        <source>Photo library</source>
+        <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Photo of the slide show</source>
         <extracomment>src/ui/slideshow/SlideShowView.cpp</extracomment>
         <translation>Foto der Diashow</translation>
@@ -4177,9 +4197,19 @@
         <translation>Gespeichertes Datum:</translation>
     </message>
     <message>
+        <source>Saving changes this field in the photo library, too</source>
+        <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Saving to photo %u of %u</source>
         <extracomment>src/collection/KTBatchOperationController.cpp</extracomment>
         <translation>Foto %u von %u wird gespeichert</translation>
+    </message>
+    <message>
+        <source>Saving writes this list into files only, not into the photo library</source>
+        <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Scene Code</source>

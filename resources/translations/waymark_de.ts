@@ -271,7 +271,7 @@
     <message>
         <source>%@ is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ wird benötigt</translation>
     </message>
     <message>
         <source>%@ is taken as the fixed offset %@, in summer and winter.</source>
@@ -296,9 +296,9 @@
     <message numerus="yes">
         <source>%@ of %d photos selected</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ von %d Foto ausgewählt</numerusform>
+            <numerusform>%@ von %d Fotos ausgewählt</numerusform>
         </translation>
     </message>
     <message>
@@ -354,9 +354,9 @@
     <message numerus="yes">
         <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %d photos were taken; give the offset itself to match those</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ wurde als fester Versatz %@ genommen, doch die Uhren dort standen auf %@, als %d Foto aufgenommen wurde; geben Sie den Versatz selbst an, damit es passt</numerusform>
+            <numerusform>%@ wurde als fester Versatz %@ genommen, doch die Uhren dort standen auf %@, als %d Fotos aufgenommen wurden; geben Sie den Versatz selbst an, damit sie passen</numerusform>
         </translation>
     </message>
     <message>
@@ -372,47 +372,47 @@
     <message>
         <source>%@: %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: %@ (%@ mit Datum), %@</translation>
     </message>
     <message>
         <source>%@: %@ not in {%@}</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: %@ ist nicht in {%@}</translation>
     </message>
     <message>
         <source>%@: %@ required %@ missing</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: %@ erwartet, %@ fehlt</translation>
     </message>
     <message>
         <source>%@: At Most %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: höchstens %@ erwartet, %@ erhalten</translation>
     </message>
     <message>
         <source>%@: At least %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: mindestens %@ erwartet, %@ erhalten</translation>
     </message>
     <message>
         <source>%@: Directory does not exist: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: diesen Ordner gibt es nicht: %@</translation>
     </message>
     <message>
         <source>%@: Directory is actually a file: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: das ist kein Ordner, sondern eine Datei: %@</translation>
     </message>
     <message>
         <source>%@: Value %@ not in range %@ to %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: der Wert %@ liegt nicht zwischen %@ und %@</translation>
     </message>
     <message>
         <source>%@: already imported, %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: schon importiert, %@ (%@ mit Datum), %@</translation>
     </message>
     <message numerus="yes">
         <source>%d could not be read.</source>
@@ -433,9 +433,9 @@
     <message numerus="yes">
         <source>%d days</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Tag</numerusform>
+            <numerusform>%d Tage</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -457,9 +457,9 @@
     <message numerus="yes">
         <source>%d hours</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Stunde</numerusform>
+            <numerusform>%d Stunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -473,9 +473,9 @@
     <message numerus="yes">
         <source>%d minutes</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Minute</numerusform>
+            <numerusform>%d Minuten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -497,9 +497,9 @@
     <message numerus="yes">
         <source>%d photos are concerned.</source>
         <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Betrifft %d Foto.</numerusform>
+            <numerusform>Betrifft %d Fotos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -521,9 +521,9 @@
     <message numerus="yes">
         <source>%d photos at one place</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Foto an einem Ort</numerusform>
+            <numerusform>%d Fotos an einem Ort</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -585,17 +585,17 @@
     <message numerus="yes">
         <source>%d photos near here</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Foto in der Nähe</numerusform>
+            <numerusform>%d Fotos in der Nähe</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d photos shown</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Foto gezeigt</numerusform>
+            <numerusform>%d Fotos gezeigt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -609,25 +609,25 @@
     <message numerus="yes">
         <source>%d points</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Punkt</numerusform>
+            <numerusform>%d Punkte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d removed</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d entfernt</numerusform>
+            <numerusform>%d entfernt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d seconds</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Sekunde</numerusform>
+            <numerusform>%d Sekunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -657,9 +657,9 @@
     <message numerus="yes">
         <source>%d waypoints</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d Wegpunkt</numerusform>
+            <numerusform>%d Wegpunkte</numerusform>
         </translation>
     </message>
     <message>
@@ -683,9 +683,9 @@
     <message numerus="yes">
         <source>, %d shown</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, %d gezeigt</numerusform>
+            <numerusform>, %d gezeigt</numerusform>
         </translation>
     </message>
     <message>
@@ -786,7 +786,7 @@
     <message>
         <source>A subcommand is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ein Befehl wird benötigt</translation>
     </message>
     <message>
         <source>A track file could not be imported.</source>
@@ -802,11 +802,6 @@
         <source>A track file to draw; repeatable</source>
         <extracomment>src/cli/MapCommand.cpp</extracomment>
         <translation>Eine zu zeichnende Trackdatei; mehrfach möglich</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <extracomment>src/export/KTExportedTags.cpp</extracomment>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About Waymark</source>
@@ -866,7 +861,7 @@
     <message>
         <source>Add Whole Group</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Gruppe hinzufügen</translation>
     </message>
     <message>
         <source>Add a %@…</source>
@@ -921,7 +916,7 @@
     <message>
         <source>Adds the group with all its fields</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fügt die Gruppe mit allen Feldern hinzu</translation>
     </message>
     <message>
         <source>Adds track files to the library</source>
@@ -1125,7 +1120,7 @@
     <message>
         <source>COMMAND</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>BEFEHL</translation>
     </message>
     <message>
         <source>Cache folder</source>
@@ -1330,7 +1325,7 @@
     <message>
         <source>Commands</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Befehle</translation>
     </message>
     <message>
         <source>Common Tags</source>
@@ -1495,7 +1490,7 @@
     <message>
         <source>Could not convert: %@ = %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nicht zu verstehen: %@ = %@</translation>
     </message>
     <message>
         <source>Country</source>
@@ -2311,7 +2306,7 @@
     <message>
         <source>Geotag to next track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auf den nächsten Trackpunkt verorten</translation>
     </message>
     <message>
         <source>Geotag to point</source>
@@ -2321,12 +2316,12 @@
     <message>
         <source>Geotag to preceding track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auf den vorigen Trackpunkt verorten</translation>
     </message>
     <message>
         <source>Geotag to time weighted average point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auf den zeitlich gemittelten Punkt verorten</translation>
     </message>
     <message>
         <source>Geotagging</source>
@@ -3451,7 +3446,7 @@
     <message>
         <source>Options</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Organization</source>
@@ -3546,9 +3541,9 @@
     <message numerus="yes">
         <source>Paste the checked values onto %d photos:</source>
         <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die angekreuzten Werte in %d Foto einfügen:</numerusform>
+            <numerusform>Die angekreuzten Werte in %d Fotos einfügen:</numerusform>
         </translation>
     </message>
     <message>
@@ -3594,7 +3589,7 @@
     <message>
         <source>Photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fotobibliothek</translation>
     </message>
     <message>
         <source>Photo of the slide show</source>
@@ -3804,7 +3799,7 @@
     <message>
         <source>REQUIRED</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>NÖTIG</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -3864,7 +3859,7 @@
     <message>
         <source>Redo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen: %@</translation>
     </message>
     <message>
         <source>Region of the world in which the image was shot, usually the continent.</source>
@@ -4119,7 +4114,7 @@
     <message>
         <source>Run with --help for more information.</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mehr darüber mit --help.</translation>
     </message>
     <message>
         <source>SEE ALSO</source>
@@ -4199,7 +4194,7 @@
     <message>
         <source>Saving changes this field in the photo library, too</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern ändert sich dieses Feld auch in der Fotobibliothek</translation>
     </message>
     <message>
         <source>Saving to photo %u of %u</source>
@@ -4209,7 +4204,7 @@
     <message>
         <source>Saving writes this list into files only, not into the photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern kommt diese Liste nur in die Dateien, nicht in die Fotobibliothek</translation>
     </message>
     <message>
         <source>Scene Code</source>
@@ -4419,7 +4414,7 @@
     <message>
         <source>Show Destination: %1</source>
         <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ziel anzeigen: %1</translation>
     </message>
     <message>
         <source>Show Export List</source>
@@ -4979,12 +4974,12 @@
     <message>
         <source>The following argument was not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Argument wurde nicht erwartet: %@</translation>
     </message>
     <message>
         <source>The following arguments were not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Diese Argumente wurden nicht erwartet: %@</translation>
     </message>
     <message>
         <source>The image file still holds what was cleared: %@</source>
@@ -5551,7 +5546,7 @@ Sie DISPLAY; ohne Anzeige leistet die Befehlszeile dasselbe: waymark-cli --help
     <message>
         <source>Undo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %@</translation>
     </message>
     <message>
         <source>Undo Typing</source>
@@ -5987,7 +5982,7 @@ Sie DISPLAY; ohne Anzeige leistet die Befehlszeile dasselbe: waymark-cli --help
     <message>
         <source>Zoom %1, centre %2, %3, %4, %5</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zoom %1, Mitte %2, %3, %4, %5</translation>
     </message>
     <message>
         <source>Zoom In</source>
@@ -6162,9 +6157,9 @@ Sie DISPLAY; ohne Anzeige leistet die Befehlszeile dasselbe: waymark-cli --help
     <message numerus="yes">
         <source>from %d tracks</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>aus %d Track</numerusform>
+            <numerusform>aus %d Tracks</numerusform>
         </translation>
     </message>
     <message>

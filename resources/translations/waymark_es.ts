@@ -271,7 +271,7 @@
     <message>
         <source>%@ is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Falta %@, que es obligatorio</translation>
     </message>
     <message>
         <source>%@ is taken as the fixed offset %@, in summer and winter.</source>
@@ -296,9 +296,9 @@
     <message numerus="yes">
         <source>%@ of %d photos selected</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ de %d foto seleccionada</numerusform>
+            <numerusform>%@ de %d fotos seleccionadas</numerusform>
         </translation>
     </message>
     <message>
@@ -354,9 +354,9 @@
     <message numerus="yes">
         <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %d photos were taken; give the offset itself to match those</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ se tomó como el desfase fijo %@, pero allí los relojes marcaban %@ cuando se hizo %d foto; indique el propio desfase para que coincida</numerusform>
+            <numerusform>%@ se tomó como el desfase fijo %@, pero allí los relojes marcaban %@ cuando se hicieron %d fotos; indique el propio desfase para que coincidan</numerusform>
         </translation>
     </message>
     <message>
@@ -372,47 +372,47 @@
     <message>
         <source>%@: %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: %@ (%@ con fecha), %@</translation>
     </message>
     <message>
         <source>%@: %@ not in {%@}</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: %@ no está en {%@}</translation>
     </message>
     <message>
         <source>%@: %@ required %@ missing</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: se necesita %@, falta %@</translation>
     </message>
     <message>
         <source>%@: At Most %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: se espera %@ como máximo y se recibió %@</translation>
     </message>
     <message>
         <source>%@: At least %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: se espera %@ como mínimo y se recibió %@</translation>
     </message>
     <message>
         <source>%@: Directory does not exist: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: esta carpeta no existe: %@</translation>
     </message>
     <message>
         <source>%@: Directory is actually a file: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: no es una carpeta, sino un archivo: %@</translation>
     </message>
     <message>
         <source>%@: Value %@ not in range %@ to %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: el valor %@ no está entre %@ y %@</translation>
     </message>
     <message>
         <source>%@: already imported, %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@: ya importado, %@ (%@ con fecha), %@</translation>
     </message>
     <message numerus="yes">
         <source>%d could not be read.</source>
@@ -433,9 +433,9 @@
     <message numerus="yes">
         <source>%d days</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d día</numerusform>
+            <numerusform>%d días</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -457,9 +457,9 @@
     <message numerus="yes">
         <source>%d hours</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d hora</numerusform>
+            <numerusform>%d horas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -473,9 +473,9 @@
     <message numerus="yes">
         <source>%d minutes</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d minuto</numerusform>
+            <numerusform>%d minutos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -497,9 +497,9 @@
     <message numerus="yes">
         <source>%d photos are concerned.</source>
         <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Afecta a %d foto.</numerusform>
+            <numerusform>Afecta a %d fotos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -521,9 +521,9 @@
     <message numerus="yes">
         <source>%d photos at one place</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d foto en un mismo lugar</numerusform>
+            <numerusform>%d fotos en un mismo lugar</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -585,17 +585,17 @@
     <message numerus="yes">
         <source>%d photos near here</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d foto cerca de aquí</numerusform>
+            <numerusform>%d fotos cerca de aquí</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d photos shown</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d foto mostrada</numerusform>
+            <numerusform>%d fotos mostradas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -609,25 +609,25 @@
     <message numerus="yes">
         <source>%d points</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d punto</numerusform>
+            <numerusform>%d puntos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d removed</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d quitado</numerusform>
+            <numerusform>%d quitados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d seconds</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d segundo</numerusform>
+            <numerusform>%d segundos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -657,9 +657,9 @@
     <message numerus="yes">
         <source>%d waypoints</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d waypoint</numerusform>
+            <numerusform>%d waypoints</numerusform>
         </translation>
     </message>
     <message>
@@ -683,9 +683,9 @@
     <message numerus="yes">
         <source>, %d shown</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, %d mostrada</numerusform>
+            <numerusform>, %d mostradas</numerusform>
         </translation>
     </message>
     <message>
@@ -786,7 +786,7 @@
     <message>
         <source>A subcommand is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hace falta una orden</translation>
     </message>
     <message>
         <source>A track file could not be imported.</source>
@@ -802,11 +802,6 @@
         <source>A track file to draw; repeatable</source>
         <extracomment>src/cli/MapCommand.cpp</extracomment>
         <translation>Un archivo de track que dibujar; repetible</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <extracomment>src/export/KTExportedTags.cpp</extracomment>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About Waymark</source>
@@ -866,7 +861,7 @@
     <message>
         <source>Add Whole Group</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Añadir el grupo entero</translation>
     </message>
     <message>
         <source>Add a %@…</source>
@@ -921,7 +916,7 @@
     <message>
         <source>Adds the group with all its fields</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Añade el grupo con todos sus campos</translation>
     </message>
     <message>
         <source>Adds track files to the library</source>
@@ -1125,7 +1120,7 @@
     <message>
         <source>COMMAND</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ORDEN</translation>
     </message>
     <message>
         <source>Cache folder</source>
@@ -1330,7 +1325,7 @@
     <message>
         <source>Commands</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes</translation>
     </message>
     <message>
         <source>Common Tags</source>
@@ -1495,7 +1490,7 @@
     <message>
         <source>Could not convert: %@ = %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>No se entiende: %@ = %@</translation>
     </message>
     <message>
         <source>Country</source>
@@ -2311,7 +2306,7 @@
     <message>
         <source>Geotag to next track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Geoetiquetar en el punto de track siguiente</translation>
     </message>
     <message>
         <source>Geotag to point</source>
@@ -2321,12 +2316,12 @@
     <message>
         <source>Geotag to preceding track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Geoetiquetar en el punto de track anterior</translation>
     </message>
     <message>
         <source>Geotag to time weighted average point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Geoetiquetar en el punto medio ponderado por el tiempo</translation>
     </message>
     <message>
         <source>Geotagging</source>
@@ -3451,7 +3446,7 @@
     <message>
         <source>Options</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Organization</source>
@@ -3546,9 +3541,9 @@
     <message numerus="yes">
         <source>Paste the checked values onto %d photos:</source>
         <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pegar los valores marcados en %d foto:</numerusform>
+            <numerusform>Pegar los valores marcados en %d fotos:</numerusform>
         </translation>
     </message>
     <message>
@@ -3594,7 +3589,7 @@
     <message>
         <source>Photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fototeca</translation>
     </message>
     <message>
         <source>Photo of the slide show</source>
@@ -3804,7 +3799,7 @@
     <message>
         <source>REQUIRED</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>OBLIGATORIO</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -3864,7 +3859,7 @@
     <message>
         <source>Redo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer: %@</translation>
     </message>
     <message>
         <source>Region of the world in which the image was shot, usually the continent.</source>
@@ -4119,7 +4114,7 @@
     <message>
         <source>Run with --help for more information.</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Use --help para saber más.</translation>
     </message>
     <message>
         <source>SEE ALSO</source>
@@ -4199,7 +4194,7 @@
     <message>
         <source>Saving changes this field in the photo library, too</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Al guardar, este campo cambia también en la fototeca</translation>
     </message>
     <message>
         <source>Saving to photo %u of %u</source>
@@ -4209,7 +4204,7 @@
     <message>
         <source>Saving writes this list into files only, not into the photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Al guardar, esta lista se escribe solo en los archivos, no en la fototeca</translation>
     </message>
     <message>
         <source>Scene Code</source>
@@ -4419,7 +4414,7 @@
     <message>
         <source>Show Destination: %1</source>
         <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el destino: %1</translation>
     </message>
     <message>
         <source>Show Export List</source>
@@ -4979,12 +4974,12 @@
     <message>
         <source>The following argument was not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>No se esperaba este argumento: %@</translation>
     </message>
     <message>
         <source>The following arguments were not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>No se esperaban estos argumentos: %@</translation>
     </message>
     <message>
         <source>The image file still holds what was cleared: %@</source>
@@ -5551,7 +5546,7 @@ la línea de órdenes hace el mismo trabajo: waymark-cli --help
     <message>
         <source>Undo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer: %@</translation>
     </message>
     <message>
         <source>Undo Typing</source>
@@ -5987,7 +5982,7 @@ la línea de órdenes hace el mismo trabajo: waymark-cli --help
     <message>
         <source>Zoom %1, centre %2, %3, %4, %5</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zoom %1, centro %2, %3, %4, %5</translation>
     </message>
     <message>
         <source>Zoom In</source>
@@ -6162,9 +6157,9 @@ la línea de órdenes hace el mismo trabajo: waymark-cli --help
     <message numerus="yes">
         <source>from %d tracks</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>de %d track</numerusform>
+            <numerusform>de %d tracks</numerusform>
         </translation>
     </message>
     <message>

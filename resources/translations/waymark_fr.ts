@@ -271,7 +271,7 @@
     <message>
         <source>%@ is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ est obligatoire</translation>
     </message>
     <message>
         <source>%@ is taken as the fixed offset %@, in summer and winter.</source>
@@ -296,9 +296,9 @@
     <message numerus="yes">
         <source>%@ of %d photos selected</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ sur %d photo sélectionnée</numerusform>
+            <numerusform>%@ sur %d photos sélectionnées</numerusform>
         </translation>
     </message>
     <message>
@@ -354,9 +354,9 @@
     <message numerus="yes">
         <source>%@ was taken as the fixed offset %@, but its clocks stood at %@ when %d photos were taken; give the offset itself to match those</source>
         <extracomment>src/cli/GeotagCommand.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%@ a été pris comme le décalage fixe %@, mais ses horloges étaient à %@ quand %d photo a été prise ; indiquez le décalage lui-même pour qu’elle corresponde</numerusform>
+            <numerusform>%@ a été pris comme le décalage fixe %@, mais ses horloges étaient à %@ quand %d photos ont été prises ; indiquez le décalage lui-même pour qu’elles correspondent</numerusform>
         </translation>
     </message>
     <message>
@@ -372,47 +372,47 @@
     <message>
         <source>%@: %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : %@ (dont %@ avec une date), %@</translation>
     </message>
     <message>
         <source>%@: %@ not in {%@}</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : %@ n’est pas dans {%@}</translation>
     </message>
     <message>
         <source>%@: %@ required %@ missing</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : il faut %@, il manque %@</translation>
     </message>
     <message>
         <source>%@: At Most %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : au plus %@ attendu, %@ reçu</translation>
     </message>
     <message>
         <source>%@: At least %@ required but received %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : au moins %@ attendu, %@ reçu</translation>
     </message>
     <message>
         <source>%@: Directory does not exist: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : ce dossier n’existe pas : %@</translation>
     </message>
     <message>
         <source>%@: Directory is actually a file: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : ce n’est pas un dossier mais un fichier : %@</translation>
     </message>
     <message>
         <source>%@: Value %@ not in range %@ to %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : la valeur %@ n’est pas comprise entre %@ et %@</translation>
     </message>
     <message>
         <source>%@: already imported, %@ (%@ with a date), %@</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%@ : déjà importé, %@ (dont %@ avec une date), %@</translation>
     </message>
     <message numerus="yes">
         <source>%d could not be read.</source>
@@ -433,9 +433,9 @@
     <message numerus="yes">
         <source>%d days</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d jour</numerusform>
+            <numerusform>%d jours</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -457,9 +457,9 @@
     <message numerus="yes">
         <source>%d hours</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d heure</numerusform>
+            <numerusform>%d heures</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -473,9 +473,9 @@
     <message numerus="yes">
         <source>%d minutes</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d minute</numerusform>
+            <numerusform>%d minutes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -497,9 +497,9 @@
     <message numerus="yes">
         <source>%d photos are concerned.</source>
         <extracomment>src/ui/datetools/DateToolsWindow.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d photo est concernée.</numerusform>
+            <numerusform>%d photos sont concernées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -521,9 +521,9 @@
     <message numerus="yes">
         <source>%d photos at one place</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d photo en un même lieu</numerusform>
+            <numerusform>%d photos en un même lieu</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -585,17 +585,17 @@
     <message numerus="yes">
         <source>%d photos near here</source>
         <extracomment>src/ui/map/MapPointing.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d photo près d’ici</numerusform>
+            <numerusform>%d photos près d’ici</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d photos shown</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d photo affichée</numerusform>
+            <numerusform>%d photos affichées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -609,25 +609,25 @@
     <message numerus="yes">
         <source>%d points</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d point</numerusform>
+            <numerusform>%d points</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d removed</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d retirée</numerusform>
+            <numerusform>%d retirées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%d seconds</source>
         <extracomment>src/platform/common/KTUnitConverter.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d seconde</numerusform>
+            <numerusform>%d secondes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -657,9 +657,9 @@
     <message numerus="yes">
         <source>%d waypoints</source>
         <extracomment>src/cli/TracksCommands.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%d waypoint</numerusform>
+            <numerusform>%d waypoints</numerusform>
         </translation>
     </message>
     <message>
@@ -683,9 +683,9 @@
     <message numerus="yes">
         <source>, %d shown</source>
         <extracomment>src/ui/photos/PhotoPane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>, %d affichée</numerusform>
+            <numerusform>, %d affichées</numerusform>
         </translation>
     </message>
     <message>
@@ -786,7 +786,7 @@
     <message>
         <source>A subcommand is required</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Il faut une commande</translation>
     </message>
     <message>
         <source>A track file could not be imported.</source>
@@ -802,11 +802,6 @@
         <source>A track file to draw; repeatable</source>
         <extracomment>src/cli/MapCommand.cpp</extracomment>
         <translation>Fichier de trace à dessiner ; répétable</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <extracomment>src/export/KTExportedTags.cpp</extracomment>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About Waymark</source>
@@ -866,7 +861,7 @@
     <message>
         <source>Add Whole Group</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter tout le groupe</translation>
     </message>
     <message>
         <source>Add a %@…</source>
@@ -921,7 +916,7 @@
     <message>
         <source>Adds the group with all its fields</source>
         <extracomment>src/ui/inspector/ArrangementView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute le groupe avec tous ses champs</translation>
     </message>
     <message>
         <source>Adds track files to the library</source>
@@ -1125,7 +1120,7 @@
     <message>
         <source>COMMAND</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>COMMANDE</translation>
     </message>
     <message>
         <source>Cache folder</source>
@@ -1330,7 +1325,7 @@
     <message>
         <source>Commands</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Commandes</translation>
     </message>
     <message>
         <source>Common Tags</source>
@@ -1495,7 +1490,7 @@
     <message>
         <source>Could not convert: %@ = %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Incompréhensible : %@ = %@</translation>
     </message>
     <message>
         <source>Country</source>
@@ -2311,7 +2306,7 @@
     <message>
         <source>Geotag to next track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Géolocaliser au point de trace suivant</translation>
     </message>
     <message>
         <source>Geotag to point</source>
@@ -2321,12 +2316,12 @@
     <message>
         <source>Geotag to preceding track point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Géolocaliser au point de trace précédent</translation>
     </message>
     <message>
         <source>Geotag to time weighted average point</source>
         <extracomment>src/ui/console/StandardPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Géolocaliser au point moyen pondéré par le temps</translation>
     </message>
     <message>
         <source>Geotagging</source>
@@ -3451,7 +3446,7 @@
     <message>
         <source>Options</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Organization</source>
@@ -3546,9 +3541,9 @@
     <message numerus="yes">
         <source>Paste the checked values onto %d photos:</source>
         <extracomment>src/ui/inspector/PasteTagsSheet.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Coller les valeurs cochées dans %d photo :</numerusform>
+            <numerusform>Coller les valeurs cochées dans %d photos :</numerusform>
         </translation>
     </message>
     <message>
@@ -3594,7 +3589,7 @@
     <message>
         <source>Photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Photothèque</translation>
     </message>
     <message>
         <source>Photo of the slide show</source>
@@ -3804,7 +3799,7 @@
     <message>
         <source>REQUIRED</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>OBLIGATOIRE</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -3864,7 +3859,7 @@
     <message>
         <source>Redo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir : %@</translation>
     </message>
     <message>
         <source>Region of the world in which the image was shot, usually the continent.</source>
@@ -4119,7 +4114,7 @@
     <message>
         <source>Run with --help for more information.</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pour en savoir plus, utilisez --help.</translation>
     </message>
     <message>
         <source>SEE ALSO</source>
@@ -4199,7 +4194,7 @@
     <message>
         <source>Saving changes this field in the photo library, too</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement modifie aussi ce champ dans la photothèque</translation>
     </message>
     <message>
         <source>Saving to photo %u of %u</source>
@@ -4209,7 +4204,7 @@
     <message>
         <source>Saving writes this list into files only, not into the photo library</source>
         <extracomment>src/ui/inspector/FieldRow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement écrit cette liste dans les fichiers seulement, pas dans la photothèque</translation>
     </message>
     <message>
         <source>Scene Code</source>
@@ -4419,7 +4414,7 @@
     <message>
         <source>Show Destination: %1</source>
         <extracomment>src/ui/export/ExportListModel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la destination : %1</translation>
     </message>
     <message>
         <source>Show Export List</source>
@@ -4979,12 +4974,12 @@
     <message>
         <source>The following argument was not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cet argument n’était pas attendu : %@</translation>
     </message>
     <message>
         <source>The following arguments were not expected: %@</source>
         <extracomment>src/cli/ParserTexts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ces arguments n’étaient pas attendus : %@</translation>
     </message>
     <message>
         <source>The image file still holds what was cleared: %@</source>
@@ -5552,7 +5547,7 @@ waymark-cli --help
     <message>
         <source>Undo %@</source>
         <extracomment>src/app/WaymarkCommand.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Annuler : %@</translation>
     </message>
     <message>
         <source>Undo Typing</source>
@@ -5988,7 +5983,7 @@ waymark-cli --help
     <message>
         <source>Zoom %1, centre %2, %3, %4, %5</source>
         <extracomment>src/ui/map/MapView.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zoom %1, centre %2, %3, %4, %5</translation>
     </message>
     <message>
         <source>Zoom In</source>
@@ -6163,9 +6158,9 @@ waymark-cli --help
     <message numerus="yes">
         <source>from %d tracks</source>
         <extracomment>src/ui/console/ConsolePane.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>de %d trace</numerusform>
+            <numerusform>de %d traces</numerusform>
         </translation>
     </message>
     <message>

@@ -123,9 +123,8 @@ KTPhoto::Revisions KTPhoto::revisions() const {
 }
 
 /// Whether @p value is the one that was read, and every source that a save would write to holds it: where an
-/// image and its sidecar differ, the value of one of them is an edit for the other. A source that tells
-/// nothing does not differ, unless a save may have left an edit behind. Undoing an edit since which no
-/// file was read or written goes back to where the photo was, and asks for the first alone.
+/// image and its sidecar differ, the value of one of them is an edit for the other. Undoing an edit since
+/// which no file was read or written goes back to where the photo was, and asks for the first alone.
 bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
                         const KTSaveTargets& where) const {
     const auto undo = undoManager();
@@ -136,18 +135,15 @@ bool KTPhoto::isAsSaved(const KTMetadataField& field, const KTValue& value,
     const bool isSinceLastWrite = edits != recordedEdits.end() && edits->second.revisions == revisions();
     if (undo && undo->isUndoingOrRedoing() && isSinceLastWrite)
         return true;
-    const bool lacksAnEdit = !isSinceLastWrite && isPendingInTargets(field, where);
-    auto agrees = [&](KTMetadataSource::Kind kind) {
-        const KTValue held = sources[kind].valueForField(field);
-        const bool tellsNothing = kind != KTMetadataSource::Library && KTIsSameValue(held, {});
-        return (tellsNothing && !lacksAnEdit) || KTIsSameValue(held, value);
+    auto holds = [&](KTMetadataSource::Kind kind) {
+        return KTIsSameValue(sources[kind].valueForField(field), value);
     };
-    if (shouldUseIPhotoProperties() && field.iPhotoSupported() && !agrees(KTMetadataSource::Library))
+    if (shouldUseIPhotoProperties() && field.iPhotoSupported() && !holds(KTMetadataSource::Library))
         return false;
-    if (where.xmpSidecar && where.hasSidecar && !agrees(KTMetadataSource::Sidecar))
+    if (where.xmpSidecar && where.hasSidecar && !holds(KTMetadataSource::Sidecar))
         return false;
     const bool imageCounts = where.imageFile || !where.hasSidecar;
-    return !imageCounts || agrees(KTMetadataSource::Image);
+    return !imageCounts || holds(KTMetadataSource::Image);
 }
 
 /// Whether something of @p field is to be written where a save writes to; the mutex must be held.

@@ -87,22 +87,6 @@ TEST_F(PhotoRecord, ASidecarThatASaveWritesToWinsWhereBothHaveAValue) {
     }
 }
 
-TEST_F(PhotoRecord, TypingWhatIsShownIsNoEditWhereTheOtherFileTellsNothing) {
-    setStyle(3);
-    auto file = makePhoto(folder, "a.jpg", {{"XMP:Label", "image"}});
-    KTExifTool::sharedExifTool().setValuesForKeysWithDictionary({{"XMP:Title", "sidecar"}}, folder / "a.xmp",
-                                                                makePhoto(folder, "empty.jpg"));
-    auto photo = open(file);
-    for (const auto& [key, shown] : {std::pair("label", "image"), std::pair("title", "sidecar")}) {
-        photo->setValueForKey(key, shown);
-        EXPECT_FALSE(photo->hasUnsavedChanges()) << key;
-        photo->setValueForKey(key, "other");
-        EXPECT_TRUE(photo->hasUnsavedChanges()) << key;
-        photo->setValueForKey(key, shown);
-        EXPECT_FALSE(photo->hasUnsavedChanges()) << key;
-    }
-}
-
 TEST_F(PhotoRecord, ARawFileGetsASidecarOnlyWhereThatIsWanted) {
     auto file = makePhoto(folder, "image.jpg", {{"XMP:Title", "t"}});
     std::filesystem::rename(file, folder / "a.CRW");

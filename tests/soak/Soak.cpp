@@ -101,7 +101,11 @@ void Soak::checkRecords() {
                                                                     value.description() + "” instead of “" +
                                                                     expected.at(key).description() + "”");
         const bool mustBeSaved = model.mustBeSaved(photo->fileURL());
-        if (photo->hasUnsavedChanges() != mustBeSaved)
+        // What is typed though it is shown may be an edit for the one of two files that lacks it.
+        const bool isForOneFile = !mustBeSaved && photo->writingToImageFile() &&
+                                  photo->writingToXMPSidecar() &&
+                                  !SoakModel::isSame(readImageAlone(photo->fileURL()), expected);
+        if (photo->hasUnsavedChanges() != mustBeSaved && !isForOneFile)
             require(false, photo->filename() + (mustBeSaved ? " does not say" : " says") +
                                " that it must be saved; pending: " + pendingOf(*photo));
     }

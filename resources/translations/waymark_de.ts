@@ -4697,6 +4697,11 @@
         <translation>Bundesland, Provinz, Kanton oder anderer Landesteil, in dem das Bild aufgenommen wurde.</translation>
     </message>
     <message>
+        <source>State/Province</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation>Bundesland</translation>
+    </message>
+    <message>
         <source>Status</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation>Status</translation>
@@ -4745,6 +4750,11 @@
         <source>Swipe</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation>Wischen</translation>
+    </message>
+    <message>
+        <source>Synchronize Metadata</source>
+        <extracomment>src/photo/KTPhotoChanges.cpp</extracomment>
+        <translation>Metadaten abgleichen</translation>
     </message>
     <message>
         <source>Synchronize metadata</source>

@@ -4697,6 +4697,11 @@
         <translation>Estado, provincia, cantón u otra parte del país donde se tomó la imagen.</translation>
     </message>
     <message>
+        <source>State/Province</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation>Estado/provincia</translation>
+    </message>
+    <message>
         <source>Status</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation>Estado</translation>
@@ -4745,6 +4750,11 @@
         <source>Swipe</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation>Barrido</translation>
+    </message>
+    <message>
+        <source>Synchronize Metadata</source>
+        <extracomment>src/photo/KTPhotoChanges.cpp</extracomment>
+        <translation>Sincronizar metadatos</translation>
     </message>
     <message>
         <source>Synchronize metadata</source>

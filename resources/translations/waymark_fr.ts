@@ -4697,6 +4697,11 @@
         <translation>État, province, région, canton ou autre partie du pays où l’image a été prise.</translation>
     </message>
     <message>
+        <source>State/Province</source>
+        <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
+        <translation>État/province</translation>
+    </message>
+    <message>
         <source>Status</source>
         <extracomment>src/metadata/KTMetadataFieldTable.cpp</extracomment>
         <translation>Statut</translation>
@@ -4745,6 +4750,11 @@
         <source>Swipe</source>
         <extracomment>src/ui/windows/SettingControls.cpp</extracomment>
         <translation>Balayage</translation>
+    </message>
+    <message>
+        <source>Synchronize Metadata</source>
+        <extracomment>src/photo/KTPhotoChanges.cpp</extracomment>
+        <translation>Synchroniser les métadonnées</translation>
     </message>
     <message>
         <source>Synchronize metadata</source>

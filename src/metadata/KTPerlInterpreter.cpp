@@ -49,6 +49,7 @@ void xs_init(pTHX) {
 void initialiseSystemOnce() {
     static const bool done = [] {
         findBootRoutine();
+        setenv("PERL_BADLANG", "0", 0); // no warning where the machine lacks the user's locale
         static char name[] = "", evaluate[] = "-e", nothing[] = "0";
         static char* arguments[] = {name, evaluate, nothing, nullptr};
         static char* noEnvironment[] = {nullptr};

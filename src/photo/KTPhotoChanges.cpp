@@ -6,6 +6,7 @@
 #include "photo/KTSameValue.h"
 #include "platform/cartography/KTGeometry.h"
 #include "platform/common/KTCallContext.h"
+#include "platform/common/KTLocalizedString.h"
 #include "platform/concurrency/KTMainThread.h"
 #include "platform/undo/KTUndoManager.h"
 
@@ -175,7 +176,7 @@ void KTPhoto::synchronizeMetadataSources() {
     auto synchronize = [this] {
         const auto undo = undoManager();
         if (undo)
-            undo->beginUndoGrouping("Synchronize Metadata");
+            undo->beginUndoGrouping(KTLocalizedString("Synchronize Metadata"));
         for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields()) {
             if (field->readonly() || isFileDate(field->key()))
                 continue;

@@ -1,11 +1,22 @@
 #include "ui/inspector/FieldLabel.h"
 
+#include "metadata/KTMetadataFieldManager.h"
 #include "ui/photos/PhotoStatus.h"
 #include "ui/support/UIText.h"
 
 namespace {
 
-constexpr int kWidth = 100, kSignEdge = 11, kGutter = 13;
+constexpr int kLeastWidth = 100, kMostWidth = 160, kSignEdge = 11, kGutter = 13;
+
+/// All labels are as wide as the longest word needs that a field's name has in the user's language: words are
+/// not broken.
+int widthOfNames(const QFontMetrics& metrics) {
+    int width = 0;
+    for (const auto& field : KTMetadataFieldManager::sharedMetadataFieldManager().metadataFields())
+        for (const QString& word : QString::fromStdString(field->name()).split(' '))
+            width = std::max(width, metrics.horizontalAdvance(word));
+    return std::clamp(width + kGutter, kLeastWidth, kMostWidth);
+}
 
 } // namespace
 
@@ -13,7 +24,8 @@ FieldLabel::FieldLabel(QWidget* parent) : QLabel(parent) {
     setWordWrap(true);
     setAlignment(Qt::AlignRight | Qt::AlignTop);
     setForegroundRole(QPalette::WindowText);
-    setFixedWidth(kWidth);
+    static const int width = widthOfNames(fontMetrics());
+    setFixedWidth(width);
     setContentsMargins(kGutter, 0, 0, 0);
     setTextFormat(Qt::PlainText);
 }
